@@ -1,0 +1,72 @@
+# SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+# SPDX-License-Identifier: MIT
+
+# What every target of this project is compiled with. Kept in one interface target that is linked
+# privately, so that no consumer ever inherits it.
+add_library(utilitywidgets_build INTERFACE)
+
+target_compile_definitions(
+    utilitywidgets_build
+    INTERFACE
+        QT_NO_CAST_FROM_ASCII
+        QT_NO_CAST_TO_ASCII
+        QT_NO_CAST_FROM_BYTEARRAY
+        QT_NO_URL_CAST_FROM_STRING
+        QT_NO_FOREACH
+        QT_USE_QSTRINGBUILDER
+        QT_STRICT_ITERATORS
+        QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+target_compile_options(
+    utilitywidgets_build
+    INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
+              -Woverloaded-virtual -Wcast-align -Wduplicated-cond -Wformat=2
+              $<$<BOOL:${UTILITYWIDGETS_STRICT}>:-Werror>)
+
+if(UTILITYWIDGETS_SANITIZE)
+    target_compile_options(
+        utilitywidgets_build INTERFACE -fsanitize=${UTILITYWIDGETS_SANITIZE}
+                                       -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(utilitywidgets_build INTERFACE -fsanitize=${UTILITYWIDGETS_SANITIZE})
+endif()
+
+# An internal library: hidden symbols, linked into the shared library and straight into the tests.
+function(uw_add_internal_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} PRIVATE utilitywidgets_build)
+endfunction()
+
+# One class of platform/: compiled here as an object library whose public symbols the shared
+# library exports, or taken from the target in the cache variable that replaces it.
+function(uw_add_platform_class file replacement)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LIBRARIES")
+    set(target platform_${file})
+    if(${replacement})
+        if(NOT TARGET ${${replacement}})
+            string(REGEX REPLACE "::.*" "" package "${${replacement}}")
+            find_package(${package} REQUIRED)
+            set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_PACKAGES ${package})
+        endif()
+        add_library(${target} INTERFACE)
+        target_link_libraries(${target} INTERFACE ${${replacement}})
+        set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_REPLACEMENTS ${${replacement}})
+        return()
+    endif()
+    add_library(${target} OBJECT ${file}.cpp ${file}.h)
+    target_compile_definitions(${target} PRIVATE UtilityWidgets_EXPORTS)
+    target_include_directories(
+        ${target} PUBLIC "${PROJECT_SOURCE_DIR}/platform" "${PROJECT_BINARY_DIR}/include")
+    target_link_libraries(${target} PUBLIC Qt6::Core ${arg_LIBRARIES} PRIVATE utilitywidgets_build)
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_HEADERS
+                                        "${CMAKE_CURRENT_SOURCE_DIR}/${file}.h")
+endfunction()
+
+# Writes a header named after the class beside the lower-case one, so that both
+# #include <OxMessageBox> and #include "oxmessagebox.h" work. Appends its path to `out`.
+function(uw_forwarding_header out header class)
+    set(forwarding "${PROJECT_BINARY_DIR}/include/${class}")
+    file(CONFIGURE OUTPUT "${forwarding}" CONTENT "#include \"${header}\" // IWYU pragma: export\n")
+    set(${out} ${${out}} "${forwarding}" PARENT_SCOPE)
+endfunction()

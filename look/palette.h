@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Every colour of the house look, once, named for its role.
+//
+// Macros, because a style sheet is one literal: "border: 1px solid " LOOK_ACCENT_ORANGE ";". The
+// letter case of the digits is part of each sheet's exact text.
+
+/// One-pixel border of every dialog, panel, title bar, button and scroll bar; background of a
+/// pressed push button and of selected list items.
+#define LOOK_ACCENT_ORANGE "#fd7800"
+
+/// List item under the finger when it is not the current selection.
+#define LOOK_HOVER_ORANGE "#fda800"
+
+/// Background of dialogs and panels.
+#define LOOK_PANEL_GREY "#f2f2f2"
+
+/// Background of title bars.
+#define LOOK_TITLE_CHARCOAL "#2b2b2b"
+
+/// Top and bottom of the vertical gradient of an enabled push button.
+#define LOOK_BUTTON_TOP "#5a5959"
+#define LOOK_BUTTON_BOTTOM "#060606"
+
+/// Border, text, and top and bottom of the gradient of a disabled push button.
+#define LOOK_DISABLED_BORDER "#d3d3d3"
+#define LOOK_DISABLED_TEXT "#848484"
+#define LOOK_DISABLED_TOP "#d3d3d3"
+#define LOOK_DISABLED_BOTTOM "#a8a8a8"
+
+/// Handle of the 35 px wide scroll bars.
+#define LOOK_SCROLL_HANDLE "#464646"

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "look/titlebarclosebutton.h"
+
+#include "look/images.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QPushButton>
+
+QPushButton* Look::createTitleBarCloseButton(const QSize& size)
+{
+    auto* button = new QPushButton;
+    button->setFlat(true);
+    button->setIcon(QIcon(QStringLiteral(LOOK_IMAGE_CLOSE)));
+    button->setIconSize(size);
+    button->setFixedSize(size);
+    button->setAutoDefault(false);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAccessibleName(QCoreApplication::translate(
+        "TitleBar", "Close", "Accessible name of the close button of a title bar."));
+    return button;
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+/*!
+ * Runs `run`, which is expected to show a modal dialog and block in exec(), and performs `script`
+ * on that dialog as soon as it is shown. Returns what `run` returns.
+ *
+ * The script usually ends the dialog. One that is still open afterwards is rejected and the test
+ * fails; so does a `run` that shows no dialog of that class.
+ */
+template <typename Dialog = QDialog, typename Run>
+auto whileModal(Run run, std::function<void(Dialog*)> script) -> decltype(run())
+{
+    bool done = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (done || dialog == nullptr || !dialog->isVisible()) {
+            return;
+        }
+        done = true;
+        script(dialog);
+    });
+    QTimer tooLate;
+    tooLate.setSingleShot(true);
+    QObject::connect(&tooLate, &QTimer::timeout, &tooLate, [] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            QTest::qFail("the dialog was not ended", __FILE__, __LINE__);
+            dialog->hide(); // ends exec() whatever the dialog thinks of it
+        }
+    });
+    poll.start(0);
+    tooLate.start(10000);
+    if constexpr (std::is_void_v<decltype(run())>) {
+        run();
+        if (!done) {
+            QTest::qFail("no dialog of the expected class was shown", __FILE__, __LINE__);
+        }
+    } else {
+        auto result = run();
+        if (!done) {
+            QTest::qFail("no dialog of the expected class was shown", __FILE__, __LINE__);
+        }
+        return result;
+    }
+}

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "containertitlebar.h"
+
+#include "look/palette.h"
+#include "look/styledwidgetpainting.h"
+#include "look/titlebarclosebutton.h"
+#include "sharedconstants.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+constexpr int TitlePointSize = 14;
+
+} // namespace
+
+ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
+    : QWidget(parent)
+    , m_titleLabel(new QLabel(title))
+    , m_closeButton(Look::createTitleBarCloseButton(CloseButtonSize))
+{
+    setObjectName(QStringLiteral("ContainerTitleBar"));
+    setStyleSheet(QStringLiteral("ContainerTitleBar { background-color: " LOOK_TITLE_CHARCOAL
+                                 "; border: 1px solid " LOOK_ACCENT_ORANGE "; }\n"
+                                 "QLabel { font-size: %1pt; color: white; font-weight: bold; }")
+                      .arg(TitlePointSize));
+
+    auto* layout = new QHBoxLayout;
+    layout->setContentsMargins(10, 0, 10, 0);
+    layout->addWidget(m_titleLabel, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    layout->addItem(new QSpacerItem(185, 30, QSizePolicy::Preferred, QSizePolicy::Preferred));
+    layout->addWidget(m_closeButton, 0, Qt::AlignRight | Qt::AlignVCenter);
+    setLayout(layout);
+    setFixedHeight(46);
+
+    connect(m_closeButton, &QPushButton::clicked, this, &ContainerTitleBar::closeButtonClicked);
+}
+
+void ContainerTitleBar::setTitle(const QString& title)
+{
+    m_titleLabel->setText(title);
+}
+
+void ContainerTitleBar::hideCloseButton()
+{
+    m_closeButton->hide();
+}
+
+void ContainerTitleBar::paintEvent(QPaintEvent* /*event*/)
+{
+    Look::paintStyledWidget(this);
+}
+
+#include "moc_containertitlebar.cpp"

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+/*!
+ * \brief The 46 pixel high head of a large dialog or a panel: title and close button.
+ *
+ * Small, message-like dialogs, whose head shows an icon, use OxTitleBar. The bar closes nothing
+ * itself:
+ *
+ * \code
+ * auto* bar = new ContainerTitleBar(this, tr("Layers", "Title of the layers panel."));
+ * connect(bar, &ContainerTitleBar::closeButtonClicked, this, &QWidget::hide);
+ * \endcode
+ */
+class UTILITYWIDGETS_EXPORT ContainerTitleBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ContainerTitleBar(QWidget* parent, const QString& title);
+
+    void setTitle(const QString& title);
+
+    /// Makes the bar one that cannot be closed. There is no way back.
+    void hideCloseButton();
+
+Q_SIGNALS:
+    /// The close button was tapped.
+    void closeButtonClicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel* m_titleLabel;
+    QPushButton* m_closeButton;
+};

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+
+/*!
+ * \brief The 40 pixel high head of a small dialog: icon, title, close button.
+ *
+ * Use it on top of message-like dialogs. Larger dialogs and panels, which have no icon, use
+ * ContainerTitleBar. The bar closes nothing itself:
+ *
+ * \code
+ * auto* bar = new OxTitleBar(this, QStringLiteral(":/icons/ruler.png"), tr("Measure", "Title"));
+ * connect(bar, &OxTitleBar::closeButtonClicked, this, &QDialog::reject);
+ * \endcode
+ */
+class UTILITYWIDGETS_EXPORT OxTitleBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `iconPath` is a file or resource that QPixmap reads, shown in 29 x 28 pixels. An empty path
+    /// or one that cannot be read leaves that place empty.
+    OxTitleBar(QWidget* parent, const QString& iconPath, const QString& title);
+
+    /// Replaces the icon; a path that cannot be read leaves its place empty.
+    void setIconPath(const QString& iconPath);
+    void setTitle(const QString& title);
+
+    /// The bar's style sheet, for a dialog that embeds a bar to append to its own sheet.
+    static QString barStyle();
+
+Q_SIGNALS:
+    /// The close button was tapped.
+    void closeButtonClicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel* m_iconLabel;
+    QLabel* m_titleLabel;
+    QPushButton* m_closeButton;
+};
