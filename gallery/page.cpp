@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "page.h"
+
+#include "pages/families.h"
+
+const QList<Gallery::Family>& Gallery::families()
+{
+    static const QList<Family> all {
+        lookFamily(),
+    };
+    return all;
+}
+
+QString Gallery::longText()
+{
+    return QStringLiteral("Unverhältnismäßig lange Übersetzung, die kein Entwurf vorgesehen hat");
+}

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "page.h"
+
+// One function per family, each in a source of its own beside this header.
+
+namespace Gallery {
+
+Family lookFamily();
+
+} // namespace Gallery

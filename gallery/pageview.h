@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "page.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QLabel;
+class QPlainTextEdit;
+class QScrollArea;
+
+namespace Gallery {
+
+class SignalLog;
+
+/// Shows one page: summary, live instances, the buttons that open its dialogs, snippet, signal log.
+class PageView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PageView(QWidget* parent = nullptr);
+
+    /// Replaces the page shown. `source` is the embedded source that holds the page's snippet.
+    void showPage(const Page& page, const QString& source);
+
+private:
+    QWidget* createLowerHalf();
+    void fillDialogButtons(const Page& page);
+
+    QLabel* m_title;
+    QLabel* m_summary;
+    QScrollArea* m_instances;
+    QWidget* m_dialogBar;
+    QHBoxLayout* m_dialogButtons;
+    QPlainTextEdit* m_snippet;
+    SignalLog* m_log;
+};
+
+} // namespace Gallery

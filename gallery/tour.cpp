@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "tour.h"
+
+#include "gallerywindow.h"
+#include "page.h"
+#include "sharedconstants.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyleHints>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace Gallery {
+
+namespace {
+
+constexpr int DialogPatience = 5000; // milliseconds until a dialog counts as missing
+
+/// The screen as a person sees it: the window, and in front of it whatever else is open.
+QPixmap picture(GalleryWindow* window)
+{
+    QPixmap screen = window->grab();
+    QPainter painter(&screen);
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (widget != window && widget->isVisible()) {
+            painter.drawPixmap(widget->pos() - window->pos(), widget->grab());
+        }
+    }
+    return screen;
+}
+
+bool save(const QPixmap& picture, const QString& path)
+{
+    const bool saved = picture.save(path, "PNG");
+    if (!saved) {
+        std::fprintf(stderr, "cannot write %s\n", qUtf8Printable(path));
+    }
+    return saved;
+}
+
+bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& path)
+{
+    bool saved = false;
+    QElapsedTimer waited;
+    waited.start();
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) {
+            dialog = QApplication::activePopupWidget();
+        }
+        if (dialog == nullptr && waited.elapsed() < DialogPatience) {
+            return;
+        }
+        poll.stop();
+        if (dialog != nullptr) {
+            QApplication::processEvents();
+            saved = save(picture(window), path);
+            dialog->close();
+        } else {
+            std::fprintf(stderr, "no dialog for %s\n", qUtf8Printable(path));
+        }
+    });
+    poll.start(0);
+    state.open();
+    return saved;
+}
+
+} // namespace
+
+bool takeTour(const QString& folder)
+{
+    const QDir target(folder);
+    if (!target.mkpath(QStringLiteral("."))) {
+        std::fprintf(stderr, "cannot make %s\n", qUtf8Printable(folder));
+        return false;
+    }
+
+    // A cursor that blinks would make two tours differ.
+    QApplication::setCursorFlashTime(0);
+    GalleryWindow window;
+    window.move(0, 0);
+    window.resize(ScreenSize);
+    window.show();
+    window.activateWindow();
+
+    bool complete = true;
+    for (const Family& family : families()) {
+        for (const Page& page : family.pages) {
+            window.showPage(page.id);
+            QApplication::processEvents();
+            complete &= save(picture(&window), target.filePath(page.id + QStringLiteral(".png")));
+            for (const DialogState& state : page.dialogs) {
+                const QString name = QStringLiteral("%1-%2.png").arg(page.id, state.id);
+                complete &= saveDialog(&window, state, target.filePath(name));
+            }
+        }
+    }
+    return complete;
+}
+
+} // namespace Gallery

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+namespace Gallery {
+
+/*!
+ * Writes one picture per page ("<page>.png") and per dialog state ("<page>-<state>.png") into
+ * `folder`, which is made when it does not exist, without a person.
+ *
+ * Returns false, with a line on standard error, when a picture could not be written or a dialog did
+ * not appear.
+ */
+bool takeTour(const QString& folder);
+
+} // namespace Gallery
