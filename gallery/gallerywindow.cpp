@@ -37,8 +37,7 @@ QString windowStyle()
         "#GalleryList::item { min-height: 35px; padding-left: 10px; border: 0px; }\n"
         "#GalleryList::item:disabled { color: " LOOK_DISABLED_TEXT
         "; background-color: " LOOK_PANEL_GREY "; }\n"
-        "#GalleryList::item:selected { color: white; background-color: " LOOK_ACCENT_ORANGE
-        "; }\n"
+        "#GalleryList::item:selected { color: white; background-color: " LOOK_ACCENT_ORANGE "; }\n"
         "#GalleryInstances, #GalleryInstancesContent { background-color: transparent; }\n"
         "#GalleryCaption { color: #5a5959; }\n"
         "#GallerySnippet, #GallerySignalLog { background-color: white; color: #2b2b2b;"

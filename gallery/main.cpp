@@ -19,9 +19,8 @@ void printList()
             std::printf("%s\t%s\t%s\n", qUtf8Printable(family.name), qUtf8Printable(page.id),
                         qUtf8Printable(page.summary));
             for (const Gallery::DialogState& state : page.dialogs) {
-                std::printf("%s\t%s-%s\t%s\n", qUtf8Printable(family.name),
-                            qUtf8Printable(page.id), qUtf8Printable(state.id),
-                            qUtf8Printable(state.caption));
+                std::printf("%s\t%s-%s\t%s\n", qUtf8Printable(family.name), qUtf8Printable(page.id),
+                            qUtf8Printable(state.id), qUtf8Printable(state.caption));
             }
         }
     }
@@ -47,7 +46,7 @@ int main(int argc, char* argv[])
         QStringLiteral("folder"));
     const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Start on page <name>."),
                                   QStringLiteral("name"));
-    parser.addOptions({list, tour, page});
+    parser.addOptions({ list, tour, page });
     parser.process(application);
 
     if (parser.isSet(list)) {

@@ -9,6 +9,7 @@ const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
         lookFamily(),
+        inputsFamily(),
     };
     return all;
 }

@@ -107,7 +107,7 @@ QWidget* PageView::createLowerHalf()
 
 void PageView::fillDialogButtons(const Page& page)
 {
-    while (const std::unique_ptr<QLayoutItem> item {m_dialogButtons->takeAt(0)}) {
+    while (const std::unique_ptr<QLayoutItem> item { m_dialogButtons->takeAt(0) }) {
         delete item->widget();
     }
     for (const DialogState& state : page.dialogs) {

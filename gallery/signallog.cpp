@@ -71,7 +71,7 @@ public:
         for (int index = firstMethodOf(object); index < meta->methodCount(); ++index) {
             if (meta->method(index).methodType() == QMetaMethod::Signal) {
                 QMetaObject::connect(object, index, this, firstSlot + int(m_signals.size()));
-                m_signals.push_back({meta->method(index), isOurs(declaringClass(meta, index))});
+                m_signals.push_back({ meta->method(index), isOurs(declaringClass(meta, index)) });
             }
         }
     }
@@ -102,8 +102,7 @@ private:
             texts.append(describeArgument(signal.method.parameterMetaType(i), arguments[i + 1]));
         }
         m_log->addLine(m_name + QStringLiteral(": ") + QString::fromLatin1(signal.method.name())
-                           + QLatin1Char('(') + texts.join(QStringLiteral(", "))
-                           + QLatin1Char(')'),
+                           + QLatin1Char('(') + texts.join(QStringLiteral(", ")) + QLatin1Char(')'),
                        signal.isOurs);
     }
 

@@ -12,8 +12,8 @@ namespace {
 
 int indentation(const QString& line)
 {
-    const auto text
-        = std::find_if_not(line.begin(), line.end(), [](QChar c) { return c == QLatin1Char(' '); });
+    const auto text =
+        std::find_if_not(line.begin(), line.end(), [](QChar c) { return c == QLatin1Char(' '); });
     return int(text - line.begin());
 }
 

@@ -14,7 +14,7 @@ public:
     const QLoggingCategory& category() const { return m_category; }
 
 private:
-    QLoggingCategory m_category {"UtilityWidgets"};
+    QLoggingCategory m_category { "UtilityWidgets" };
 };
 
 Logger* loggerInstance()
@@ -30,8 +30,7 @@ CuteMessageLogger::CuteMessageLogger(Logger* logger, int level, const char* file
     , m_file(file)
     , m_line(line)
     , m_function(function)
-{
-}
+{ }
 
 void CuteMessageLogger::write(const char* format, ...) const
 {

@@ -9,6 +9,6 @@
 
 void Touch::nudgeInputSystem(QWidget* field)
 {
-    QCoreApplication::postEvent(
-        field, new QKeyEvent(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier));
+    QCoreApplication::postEvent(field,
+                                new QKeyEvent(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier));
 }

@@ -7,8 +7,7 @@
 
 OxLineEdit::OxLineEdit(QWidget* parent)
     : OxLineEdit(QString(), parent)
-{
-}
+{ }
 
 OxLineEdit::OxLineEdit(const QString& text, QWidget* parent)
     : QLineEdit(text, parent)

@@ -9,6 +9,7 @@
 
 namespace Gallery {
 
+Family inputsFamily();
 Family lookFamily();
 
 } // namespace Gallery

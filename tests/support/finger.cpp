@@ -16,7 +16,8 @@ void Finger::press(QWidget* widget, const QPoint& at)
 {
     m_window = widget->window()->windowHandle();
     m_position = widget->mapToGlobal(at);
-    QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, m_window->mapFromGlobal(m_position));
+    QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier,
+                      m_window->mapFromGlobal(m_position));
 }
 
 void Finger::moveTo(const QPoint& global)

@@ -10,7 +10,9 @@
 
 void Test::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    // The offscreen platform says this whenever a window with a fixed size is shown.
+    QTest::failOnWarning(QRegularExpression(
+        QStringLiteral("^(?!This plugin does not support propagateSizeHints\\(\\)$)")));
 }
 
 void Test::cleanup()

@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "gallery/gallerywindow.h"
+#include "gallery/page.h"
+#include "gallery/pageview.h"
+#include "gallery/signallog.h"
+#include "gallery/snippets.h"
+#include "gallery/tour.h"
+
+#include "containertitlebar.h"
+#include "oxtitlebar.h"
+#include "sharedconstants.h"
+#include "support/finger.h"
+#include "support/test.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
+#include <QSet>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+class TestGallery : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyClassOfTheLibraryHasItsPage();
+    void everyPageHasASnippetAndASummary();
+    void pageNamesAreUnique();
+    void theWindowShowsThePageThatIsTappedInTheList();
+    void anUnknownPageChangesNothing();
+    void theTourWritesOnePicturePerPageAndDialog();
+    void theTourReportsAFolderItCannotMake();
+    void theListNamesEveryPictureOfTheTour();
+
+    void aSnippetIsCutBetweenItsMarks_data();
+    void aSnippetIsCutBetweenItsMarks();
+
+    void theLogShowsSignalsWithTheirArguments();
+    void theLogCountsRepeatedSignals();
+    void theLogLeavesOutWhatEveryWidgetHas();
+    void aResetLogIsSilent();
+};
+
+namespace {
+
+QList<Gallery::Page> allPages()
+{
+    QList<Gallery::Page> pages;
+    for (const Gallery::Family& family : Gallery::families()) {
+        pages += family.pages;
+    }
+    return pages;
+}
+
+QStringList pictureNames()
+{
+    QStringList names;
+    const QList<Gallery::Page> pages = allPages();
+    for (const Gallery::Page& page : pages) {
+        names.append(page.id);
+        for (const Gallery::DialogState& state : page.dialogs) {
+            names.append(page.id + QLatin1Char('-') + state.id);
+        }
+    }
+    return names;
+}
+
+bool isBlank(const QImage& image)
+{
+    const QRgb first = image.pixel(0, 0);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != first) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+void TestGallery::everyClassOfTheLibraryHasItsPage()
+{
+    const QStringList classes = QStringLiteral(UTILITYWIDGETS_CLASSES).split(QLatin1Char(','));
+    QVERIFY(classes.count() > 2);
+    QStringList missing = classes;
+    const QList<Gallery::Page> pages = allPages();
+    for (const Gallery::Page& page : pages) {
+        missing.removeAll(page.id);
+    }
+    QCOMPARE(missing, QStringList());
+}
+
+void TestGallery::everyPageHasASnippetAndASummary()
+{
+    for (const Gallery::Family& family : Gallery::families()) {
+        for (const Gallery::Page& page : family.pages) {
+            QVERIFY2(!page.summary.isEmpty(), qPrintable(page.id));
+            QVERIFY2(!Gallery::snippet(family.source, page.id).isEmpty(), qPrintable(page.id));
+        }
+    }
+}
+
+void TestGallery::pageNamesAreUnique()
+{
+    const QStringList names = pictureNames();
+    QCOMPARE(QSet<QString>(names.begin(), names.end()).count(), names.count());
+}
+
+void TestGallery::theWindowShowsThePageThatIsTappedInTheList()
+{
+    Gallery::GalleryWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(window.findChild<OxTitleBar*>() != nullptr);
+    QCOMPARE(window.size(), ScreenSize);
+
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("GalleryList"));
+    const auto items = list->findItems(QStringLiteral("ContainerTitleBar"), Qt::MatchExactly);
+    QCOMPARE(items.count(), 1);
+    list->scrollToItem(items.constFirst());
+    Finger().tap(list->viewport(), list->visualItemRect(items.constFirst()).center());
+
+    auto* view = window.findChild<Gallery::PageView*>();
+    QCOMPARE(view->findChild<QLabel*>()->text(), QStringLiteral("ContainerTitleBar"));
+    QVERIFY(!view->findChildren<ContainerTitleBar*>().isEmpty());
+}
+
+void TestGallery::anUnknownPageChangesNothing()
+{
+    Gallery::GalleryWindow window;
+    auto* list = window.findChild<QListWidget*>(QStringLiteral("GalleryList"));
+    window.showPage(QStringLiteral("ContainerTitleBar"));
+    window.showPage(QStringLiteral("NoSuchPage"));
+    QCOMPARE(list->currentItem()->text(), QStringLiteral("ContainerTitleBar"));
+}
+
+void TestGallery::theTourWritesOnePicturePerPageAndDialog()
+{
+    const QTemporaryDir folder;
+    QVERIFY(Gallery::takeTour(folder.filePath(QStringLiteral("new/tour"))));
+
+    const QDir pictures(folder.filePath(QStringLiteral("new/tour")));
+    QStringList expected = pictureNames();
+    expected.replaceInStrings(QRegularExpression(QStringLiteral("$")), QStringLiteral(".png"));
+    expected.sort();
+    QStringList written = pictures.entryList(QDir::Files);
+    written.sort();
+    QCOMPARE(written, expected);
+
+    QSet<QByteArray> different;
+    for (const QString& name : std::as_const(written)) {
+        const QImage image(pictures.filePath(name));
+        QCOMPARE(image.size(), ScreenSize);
+        QVERIFY2(!isBlank(image), qPrintable(name));
+        different.insert(QByteArray::fromRawData(reinterpret_cast<const char*>(image.constBits()),
+                                                 image.sizeInBytes())
+                             .toBase64());
+    }
+    QCOMPARE(different.count(), written.count());
+}
+
+void TestGallery::theTourReportsAFolderItCannotMake()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("file")));
+    QVERIFY(file.open(QFile::WriteOnly));
+    QVERIFY(!Gallery::takeTour(file.fileName() + QStringLiteral("/tour")));
+}
+
+void TestGallery::theListNamesEveryPictureOfTheTour()
+{
+    QProcess gallery;
+    gallery.start(QStringLiteral(UTILITYWIDGETS_GALLERY), { QStringLiteral("--list") });
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.exitCode(), 0);
+    QStringList names;
+    const QStringList lines = QString::fromUtf8(gallery.readAllStandardOutput())
+                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        names.append(line.section(QLatin1Char('\t'), 1, 1));
+    }
+    QCOMPARE(names, pictureNames());
+}
+
+void TestGallery::aSnippetIsCutBetweenItsMarks_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("snippet");
+
+    QTest::newRow("no marks") << QStringLiteral("int a;\n") << QString();
+    QTest::newRow("another name") << QStringLiteral("//! [B]\nint a;\n//! [B]\n") << QString();
+    QTest::newRow("common indentation")
+        << QStringLiteral("x\n    //! [A]\n    if (a) {\n        b();\n    }\n    //! [A]\ny\n")
+        << QStringLiteral("if (a) {\n    b();\n}");
+    QTest::newRow("an empty line keeps the indentation of the others")
+        << QStringLiteral("    //! [A]\n    a();\n\n    b();\n    //! [A]\n")
+        << QStringLiteral("a();\n\nb();");
+    QTest::newRow("two parts") << QStringLiteral("//! [A]\na\n//! [A]\nx\n//! [A]\nb\n//! [A]")
+                               << QStringLiteral("a\nb");
+}
+
+void TestGallery::aSnippetIsCutBetweenItsMarks()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, snippet);
+    QCOMPARE(Gallery::extractSnippet(source, QStringLiteral("A")), snippet);
+}
+
+void TestGallery::theLogShowsSignalsWithTheirArguments()
+{
+    Gallery::SignalLog log;
+    QSpinBox box;
+    OxTitleBar bar(nullptr, QString(), QString());
+    log.watch(QStringLiteral("Box"), &box);
+    log.watch(QStringLiteral("Bar"), &bar);
+
+    box.setValue(7);
+    bar.findChild<QPushButton*>()->click();
+
+    QCOMPARE(log.toPlainText(),
+             QStringLiteral("Box: textChanged(\"7\")\nBox: valueChanged(7)\n"
+                            "Bar: closeButtonClicked()"));
+}
+
+void TestGallery::theLogCountsRepeatedSignals()
+{
+    Gallery::SignalLog log;
+    ContainerTitleBar bar(nullptr, QString());
+    log.watch(QStringLiteral("Bar"), &bar);
+    for (int i = 0; i < 3; ++i) {
+        bar.findChild<QPushButton*>()->click();
+    }
+    log.addLine(QStringLiteral("end"), true);
+    QCOMPARE(log.toPlainText(), QStringLiteral("Bar: closeButtonClicked()  (3 times)\nend"));
+}
+
+void TestGallery::theLogLeavesOutWhatEveryWidgetHas()
+{
+    Gallery::SignalLog log;
+    QLabel label;
+    log.watch(QStringLiteral("Label"), &label);
+    label.setWindowTitle(QStringLiteral("title"));
+    label.setObjectName(QStringLiteral("name"));
+    QCOMPARE(log.toPlainText(), QString());
+}
+
+void TestGallery::aResetLogIsSilent()
+{
+    Gallery::SignalLog log;
+    QSpinBox box;
+    log.watch(QStringLiteral("Box"), &box);
+    box.setValue(7);
+    log.reset();
+    box.setValue(8);
+    QCOMPARE(log.toPlainText(), QString());
+}
+
+UW_TEST_MAIN(TestGallery)
+
+#include "tst_gallery.moc"
