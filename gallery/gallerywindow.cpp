@@ -39,6 +39,8 @@ QString windowStyle()
         "; background-color: " LOOK_PANEL_GREY "; }\n"
         "#GalleryList::item:selected { color: white; background-color: " LOOK_ACCENT_ORANGE "; }\n"
         "#GalleryInstances, #GalleryInstancesContent { background-color: transparent; }\n"
+        "#GalleryInstances QLineEdit, #GalleryInstances QAbstractSpinBox,"
+        " #GalleryInstances QComboBox { min-height: 33px; }\n"
         "#GalleryCaption { color: #5a5959; }\n"
         "#GallerySnippet, #GallerySignalLog { background-color: white; color: #2b2b2b;"
         " border: 1px solid #c6c6c6; }\n"

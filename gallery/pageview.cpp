@@ -78,9 +78,10 @@ void PageView::showPage(const Page& page, const QString& source)
 
     auto* content = new QWidget;
     content->setObjectName(QStringLiteral("GalleryInstancesContent"));
+    content->setFont(ApplicationFont::getWidgetFont(false));
     auto* grid = new QGridLayout(content);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(0);
+    grid->setHorizontalSpacing(0); // the stage spaces the columns
     grid->setVerticalSpacing(10);
     Stage stage(grid, m_log);
     if (page.build) {
@@ -100,8 +101,8 @@ QWidget* PageView::createLowerHalf()
     auto* layout = new QHBoxLayout(half);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    layout->addWidget(m_snippet, 3);
-    layout->addWidget(m_log, 2);
+    layout->addWidget(m_snippet, 2);
+    layout->addWidget(m_log, 1);
     return half;
 }
 

@@ -18,6 +18,7 @@ namespace {
 
 // Columns are counted on a grid that divides evenly into one to six of them.
 constexpr int GridColumns = 60;
+constexpr int ColumnGap = 12; // pixels
 
 QLabel* createCaption(const QString& text)
 {
@@ -89,6 +90,9 @@ void Stage::log(const QString& line)
 void Stage::place(const QString& caption, QWidget* widget, int span)
 {
     auto* cell = new QVBoxLayout;
+    // Every cell gives up the same width to the gaps, so that all instances are equally wide.
+    cell->setContentsMargins(ColumnGap * m_column / m_columns, 0,
+                             ColumnGap * (m_columns - m_column - span) / m_columns, 0);
     cell->setSpacing(2);
     cell->addWidget(createCaption(caption));
     cell->addWidget(widget);
