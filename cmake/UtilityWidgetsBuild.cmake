@@ -20,7 +20,8 @@ target_compile_definitions(
 target_compile_options(
     utilitywidgets_build
     INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor
-              -Woverloaded-virtual -Wcast-align -Wduplicated-cond -Wformat=2
+              -Woverloaded-virtual -Wcast-align -Wformat=2
+              $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond>
               $<$<BOOL:${UTILITYWIDGETS_STRICT}>:-Werror>)
 
 if(UTILITYWIDGETS_SANITIZE)
@@ -38,29 +39,40 @@ function(uw_add_internal_library name)
     target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} PRIVATE utilitywidgets_build)
 endfunction()
 
+# uw_add_platform_class(file Class REPLACEMENT_VARIABLE [libraries ...])
+#
 # One class of platform/: compiled here as an object library whose public symbols the shared
-# library exports, or taken from the target in the cache variable that replaces it.
-function(uw_add_platform_class file replacement)
-    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LIBRARIES")
+# library exports, or taken from the target that the cache variable names. Linking the target
+# platform_<file> brings the class in either case. A replacement comes from the package that its
+# namespace names, unless somebody above has already made the target; installed consumers look for
+# the same package.
+function(uw_add_platform_class file class replacement)
     set(target platform_${file})
     if(${replacement})
+        string(REGEX MATCH "^(.+)::.+$" namespaced "${${replacement}}")
+        if(NOT namespaced)
+            message(FATAL_ERROR "${replacement} is \"${${replacement}}\"; "
+                                "it must name a target as Package::Target")
+        endif()
+        set(package ${CMAKE_MATCH_1})
         if(NOT TARGET ${${replacement}})
-            string(REGEX REPLACE "::.*" "" package "${${replacement}}")
-            find_package(${package} REQUIRED)
-            set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_PACKAGES ${package})
+            find_package(${package} REQUIRED GLOBAL)
         endif()
         add_library(${target} INTERFACE)
         target_link_libraries(${target} INTERFACE ${${replacement}})
+        set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_PACKAGES ${package})
         set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_REPLACEMENTS ${${replacement}})
         return()
     endif()
-    add_library(${target} OBJECT ${file}.cpp ${file}.h)
+    set(folder "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
+    add_library(${target} OBJECT ${file}/${file}.cpp ${file}/${file}.h)
     target_compile_definitions(${target} PRIVATE UtilityWidgets_EXPORTS)
-    target_include_directories(
-        ${target} PUBLIC "${PROJECT_SOURCE_DIR}/platform" "${PROJECT_BINARY_DIR}/include")
-    target_link_libraries(${target} PUBLIC Qt6::Core ${arg_LIBRARIES} PRIVATE utilitywidgets_build)
-    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_HEADERS
-                                        "${CMAKE_CURRENT_SOURCE_DIR}/${file}.h")
+    target_include_directories(${target} PUBLIC "${folder}" "${PROJECT_BINARY_DIR}/include")
+    target_link_libraries(${target} PUBLIC Qt6::Core ${ARGN} PRIVATE utilitywidgets_build)
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_FOLDERS "${folder}")
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_HEADERS "${folder}/${file}.h")
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_CLASSES ${class})
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_TARGETS ${target})
 endfunction()
 
 # Writes a header named after the class beside the lower-case one, so that both
