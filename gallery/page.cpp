@@ -10,6 +10,7 @@ const QList<Gallery::Family>& Gallery::families()
     static const QList<Family> all {
         lookFamily(),
         inputsFamily(),
+        platformFamily(),
     };
     return all;
 }

@@ -11,5 +11,6 @@ namespace Gallery {
 
 Family inputsFamily();
 Family lookFamily();
+Family platformFamily();
 
 } // namespace Gallery

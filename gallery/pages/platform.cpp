@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "pages/families.h"
+
+#include "applicationfont.h"
+#include "logger.h"
+#include "stage.h"
+
+#include <QLabel>
+
+namespace Gallery {
+
+namespace {
+
+QLabel* createSample(const QFont& font)
+{
+    auto* sample = new QLabel(QStringLiteral("Vela Orca 0123"));
+    sample->setFont(font);
+    return sample;
+}
+
+void showApplicationFont(Stage& stage)
+{
+    //! [ApplicationFont]
+    auto* heading = new QLabel(QStringLiteral("Layers"));
+    heading->setFont(ApplicationFont::getWidgetFontLarge(true));
+    //! [ApplicationFont]
+    stage.addWide(QStringLiteral("A heading"), heading);
+
+    using FontFunction = QFont (*)(bool);
+    const std::pair<const char*, FontFunction> sizes[] {
+        { "Large", ApplicationFont::getWidgetFontLarge },
+        { "Normal", ApplicationFont::getWidgetFont },
+        { "Small", ApplicationFont::getWidgetFontSmall },
+        { "Tiny", ApplicationFont::getWidgetFontTiny },
+    };
+    stage.setColumns(4);
+    for (const auto& [name, font] : sizes) {
+        stage.add(QString::fromLatin1(name), createSample(font(false)));
+    }
+    for (const auto& [name, font] : sizes) {
+        stage.add(QString::fromLatin1(name) + QStringLiteral(", bold"), createSample(font(true)));
+    }
+}
+
+void showCuteMessageLogger(Stage& stage)
+{
+    const char* const levels[] { "Trace", "Debug", "Info", "Warning", "Error", "Fatal" };
+    for (int level = CuteMessageLogger::Trace; level <= CuteMessageLogger::Fatal; ++level) {
+        const QString name = QString::fromLatin1(levels[level]);
+        stage.addAction(name, [level, name, stage]() mutable {
+            //! [CuteMessageLogger]
+            CuteMessageLogger(loggerInstance(), level, __FILE__, __LINE__, Q_FUNC_INFO)
+                .write("A line of the level %s", qUtf8Printable(name));
+            //! [CuteMessageLogger]
+            stage.log(name + QStringLiteral(" written to the process's log"));
+        });
+    }
+}
+
+} // namespace
+
+Family platformFamily()
+{
+    return {
+        QStringLiteral("Platform"),
+        QStringLiteral(":/gallery/pages/platform.cpp"),
+        {
+            {
+                QStringLiteral("ApplicationFont"),
+                QStringLiteral("The four sizes, plain and bold, in which all text is drawn."),
+                showApplicationFont,
+                {},
+            },
+            {
+                QStringLiteral("CuteMessageLogger"),
+                QStringLiteral("Writes a line to the process's log, with its place in the source."),
+                showCuteMessageLogger,
+                {},
+            },
+        },
+    };
+}
+
+} // namespace Gallery
