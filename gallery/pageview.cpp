@@ -101,8 +101,8 @@ QWidget* PageView::createLowerHalf()
     auto* layout = new QHBoxLayout(half);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
-    layout->addWidget(m_snippet, 2);
-    layout->addWidget(m_log, 1);
+    layout->addWidget(m_snippet, 9);
+    layout->addWidget(m_log, 4);
     return half;
 }
 
