@@ -75,6 +75,15 @@ function(uw_add_platform_class file class replacement)
     set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_TARGETS ${target})
 endfunction()
 
+# Installs a program, which finds the library wherever the tree is moved to.
+function(uw_install_program target component)
+    cmake_path(
+        RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"
+        OUTPUT_VARIABLE bin_to_lib)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "\$ORIGIN/${bin_to_lib}")
+    install(TARGETS ${target} RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT ${component})
+endfunction()
+
 # Writes a header named after the class beside the lower-case one, so that both
 # #include <OxMessageBox> and #include "oxmessagebox.h" work. Appends its path to `out`.
 function(uw_forwarding_header out header class)
