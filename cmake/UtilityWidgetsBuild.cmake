@@ -39,14 +39,15 @@ function(uw_add_internal_library name)
     target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} PRIVATE utilitywidgets_build)
 endfunction()
 
-# uw_add_platform_class(file Class REPLACEMENT_VARIABLE [libraries ...])
+# uw_add_platform_class(file Class REPLACEMENT_VARIABLE [libraries ...] [SOURCES ...])
 #
 # One class of platform/: compiled here as an object library whose public symbols the shared
 # library exports, or taken from the target that the cache variable names. Linking the target
 # platform_<file> brings the class in either case. A replacement comes from the package that its
 # namespace names, unless somebody above has already made the target; installed consumers look for
-# the same package.
+# the same package. SOURCES are the internal files that the class is made of besides its own two.
 function(uw_add_platform_class file class replacement)
+    cmake_parse_arguments(PARSE_ARGV 3 arg "" "" "SOURCES")
     set(target platform_${file})
     if(${replacement})
         string(REGEX MATCH "^(.+)::.+$" namespaced "${${replacement}}")
@@ -66,9 +67,12 @@ function(uw_add_platform_class file class replacement)
     endif()
     set(folder "${CMAKE_CURRENT_SOURCE_DIR}/${file}")
     add_library(${target} OBJECT ${file}/${file}.cpp ${file}/${file}.h)
+    list(TRANSFORM arg_SOURCES PREPEND "${folder}/")
+    target_sources(${target} PRIVATE ${arg_SOURCES})
     target_compile_definitions(${target} PRIVATE UtilityWidgets_EXPORTS)
     target_include_directories(${target} PUBLIC "${folder}" "${PROJECT_BINARY_DIR}/include")
-    target_link_libraries(${target} PUBLIC Qt6::Core ${ARGN} PRIVATE utilitywidgets_build)
+    target_link_libraries(
+        ${target} PUBLIC Qt6::Core ${arg_UNPARSED_ARGUMENTS} PRIVATE utilitywidgets_build)
     set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_FOLDERS "${folder}")
     set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_HEADERS "${folder}/${file}.h")
     set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_CLASSES ${class})

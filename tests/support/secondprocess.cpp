@@ -46,6 +46,11 @@ QByteArray SecondProcess::nextLine(int timeout)
     return line.isNull() ? QByteArray("") : line;
 }
 
+bool SecondProcess::hasLine()
+{
+    return m_process.canReadLine() || (m_process.waitForReadyRead(0) && m_process.canReadLine());
+}
+
 void SecondProcess::writeLine(const QByteArray& line)
 {
     m_process.write(line + '\n');

@@ -23,6 +23,8 @@ public:
     bool waitForLine(const QByteArray& line, int timeout = 20000);
     /// The next line that it prints, without its line break; null after `timeout` ms.
     QByteArray nextLine(int timeout = 20000);
+    /// Whether nextLine() would return at once.
+    bool hasLine();
     void writeLine(const QByteArray& line);
 
     /// Waits for its end and returns the exit code, or -1 if it crashed or did not end in time.
