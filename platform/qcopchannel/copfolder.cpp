@@ -78,7 +78,9 @@ void FileDescriptor::close()
 
 QByteArray fileNamePrefix(const QString& channel)
 {
-    return QCryptographicHash::hash(channel.toUtf8(), QCryptographicHash::Sha256).toHex() + '.';
+    // Half of the hash: a socket's address has room for 107 bytes.
+    return QCryptographicHash::hash(channel.toUtf8(), QCryptographicHash::Sha256).toHex().left(32)
+        + '.';
 }
 
 QByteArray folderPath()

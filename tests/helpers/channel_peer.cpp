@@ -73,7 +73,7 @@ public:
 private:
     void onReceived(const QString& msg, const QByteArray& data)
     {
-        const QByteArray text(reinterpret_cast<const char*>(msg.utf16()), msg.size() * 2);
+        const QByteArray text(reinterpret_cast<const char*>(msg.constData()), msg.size() * 2);
         const QByteArray line = "got " + (msg.isNull() ? QByteArray("null") : text.toHex()) + ' '
             + (data.isNull() ? QByteArray("null") : data.toHex());
         if (m_collecting) {

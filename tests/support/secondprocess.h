@@ -34,6 +34,7 @@ public:
     /// SIGKILL, and waits until the process is gone.
     void kill();
 
+    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
     qint64 pid() const { return m_process.processId(); }
 
 private:
