@@ -127,7 +127,7 @@ void GalleryWindow::showCurrentPage()
         return;
     }
     const Family& family = families().at(item->data(FamilyRole).toInt());
-    m_view->showPage(family.pages.at(item->data(PageRole).toInt()), family.source);
+    m_view->showPage(family, family.pages.at(item->data(PageRole).toInt()));
 }
 
 } // namespace Gallery

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "gallerywindow.h"
+#include "oxsingleinstanceapplication.h"
 #include "page.h"
 #include "tour.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
 
 #include <cstdio>
@@ -26,17 +26,32 @@ void printList()
     }
 }
 
+/// The window, as long as a person wants to see it.
+int showGallery(int argc, char* argv[], QCommandLineParser& parser, const QCommandLineOption& page)
+{
+    //! [OxSingleInstanceApplication]
+    OxSingleInstanceApplication application(argc, argv, QString::fromLatin1(Gallery::ChannelName));
+    if (!application.isOnlyInstance()) {
+        return 0; // the first instance has come forward
+    }
+    parser.process(application);
+    Gallery::GalleryWindow window;
+    window.showPage(parser.value(page));
+    application.setMainWidget(&window);
+    return OxSingleInstanceApplication::exec();
+    //! [OxSingleInstanceApplication]
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("UtilityWidgets Gallery"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Shows every widget of the UtilityWidgets library, live."));
-    parser.addHelpOption();
+    const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption list(
         QStringLiteral("list"),
         QStringLiteral("Print family, name and summary of every page and dialog, then end."));
@@ -47,17 +62,23 @@ int main(int argc, char* argv[])
     const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Start on page <name>."),
                                   QStringLiteral("name"));
     parser.addOptions({ list, tour, page });
-    parser.process(application);
+    // Before there is an application object: which one it is depends on what is asked for. Options
+    // of Qt's own, which only the application object takes away, are of no importance here.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    parser.parse(arguments);
+    if (!parser.isSet(help) && !parser.isSet(list) && !parser.isSet(tour)) {
+        return showGallery(argc, argv, parser, page);
+    }
 
+    // None of these may call a gallery that is running forward.
+    const QApplication application(argc, argv);
+    parser.process(application);
     if (parser.isSet(list)) {
         printList();
         return 0;
     }
-    if (parser.isSet(tour)) {
-        return Gallery::takeTour(parser.value(tour)) ? 0 : 1;
-    }
-    Gallery::GalleryWindow window;
-    window.showPage(parser.value(page));
-    window.showFullScreen();
-    return QApplication::exec();
+    return Gallery::takeTour(parser.value(tour)) ? 0 : 1;
 }

@@ -4,6 +4,7 @@
 #include "page.h"
 
 #include "pages/families.h"
+#include "snippets.h"
 
 const QList<Gallery::Family>& Gallery::families()
 {
@@ -13,6 +14,11 @@ const QList<Gallery::Family>& Gallery::families()
         platformFamily(),
     };
     return all;
+}
+
+QString Gallery::Family::snippetOf(const Page& page) const
+{
+    return snippet(page.source.isEmpty() ? source : page.source, page.id);
 }
 
 QString Gallery::longText()

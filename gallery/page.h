@@ -12,6 +12,9 @@ namespace Gallery {
 
 class Stage;
 
+/// Channel on which a second start of the gallery calls for the first.
+inline constexpr char ChannelName[] = "UtilityWidgetsGallery";
+
 /// A dialog that a page opens: by a button on the page, and in the tour without a person.
 struct DialogState
 {
@@ -34,6 +37,8 @@ struct Page
     /// Puts the live instances on the stage. Called whenever the page is opened.
     std::function<void(Stage&)> build;
     QList<DialogState> dialogs;
+    /// The embedded source that holds the snippet, where it is not the family's.
+    QString source = {};
 };
 
 struct Family
@@ -42,6 +47,8 @@ struct Family
     /// The source that holds the pages, as embedded: ":/gallery/pages/<name>.cpp".
     QString source;
     QList<Page> pages;
+
+    QString snippetOf(const Page& page) const;
 };
 
 /// The one table from which the window, `--list`, `--tour` and the documentation are made.

@@ -5,7 +5,6 @@
 
 #include "applicationfont.h"
 #include "signallog.h"
-#include "snippets.h"
 #include "stage.h"
 
 #include <QFontDatabase>
@@ -69,12 +68,12 @@ PageView::PageView(QWidget* parent)
     layout->addWidget(createLowerHalf());
 }
 
-void PageView::showPage(const Page& page, const QString& source)
+void PageView::showPage(const Family& family, const Page& page)
 {
     m_log->reset();
     m_title->setText(page.id);
     m_summary->setText(page.summary);
-    m_snippet->setPlainText(snippet(source, page.id));
+    m_snippet->setPlainText(family.snippetOf(page));
 
     auto* content = new QWidget;
     content->setObjectName(QStringLiteral("GalleryInstancesContent"));

@@ -24,8 +24,8 @@ class PageView : public QWidget
 public:
     explicit PageView(QWidget* parent = nullptr);
 
-    /// Replaces the page shown. `source` is the embedded source that holds the page's snippet.
-    void showPage(const Page& page, const QString& source);
+    /// Replaces the page shown.
+    void showPage(const Family& family, const Page& page);
 
 private:
     QWidget* createLowerHalf();

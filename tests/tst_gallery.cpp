@@ -102,7 +102,7 @@ void TestGallery::everyPageHasASnippetAndASummary()
     for (const Gallery::Family& family : Gallery::families()) {
         for (const Gallery::Page& page : family.pages) {
             QVERIFY2(!page.summary.isEmpty(), qPrintable(page.id));
-            QVERIFY2(!Gallery::snippet(family.source, page.id).isEmpty(), qPrintable(page.id));
+            QVERIFY2(!family.snippetOf(page).isEmpty(), qPrintable(page.id));
         }
     }
 }

@@ -5,6 +5,7 @@
 
 #include "applicationfont.h"
 #include "logger.h"
+#include "qcopchannel.h"
 #include "stage.h"
 
 #include <QLabel>
@@ -59,6 +60,39 @@ void showCuteMessageLogger(Stage& stage)
     }
 }
 
+void showOxSingleInstanceApplication(Stage& stage)
+{
+    stage.addWide(QStringLiteral("The start of a program"),
+                  new QLabel(QStringLiteral("A second start brings the running program forward and "
+                                            "ends. The gallery is such a program.")));
+    stage.addAction(QStringLiteral("Start it again"), [stage]() mutable {
+        // What a second start does in its constructor, seen from the first.
+        QCopChannel::send(QString::fromLatin1(ChannelName), QStringLiteral("raise"));
+        stage.log(QStringLiteral("\"raise\" sent: this window is in front"));
+    });
+}
+
+void showQCopChannel(Stage& stage)
+{
+    auto* name = new QLabel(QStringLiteral("Gallery/Demonstration"));
+    //! [QCopChannel]
+    auto* channel = new QCopChannel(QStringLiteral("Gallery/Demonstration"), name);
+    QObject::connect(channel, &QCopChannel::received, name,
+                     [name](const QString& message) { name->setText(message); });
+    //! [QCopChannel]
+    stage.addWide(QStringLiteral("Last message received"), name);
+    stage.watch(QStringLiteral("Channel"), channel);
+    const char* const messages[] { "mounts", "add", "remove" };
+    for (const char* message : messages) {
+        stage.addAction(QStringLiteral("Send \"%1\"").arg(QLatin1String(message)), [message] {
+            //! [QCopChannel]
+            QCopChannel::send(QStringLiteral("Gallery/Demonstration"), QString::fromLatin1(message),
+                              QByteArrayLiteral("/media/stick"));
+            //! [QCopChannel]
+        });
+    }
+}
+
 } // namespace
 
 Family platformFamily()
@@ -78,6 +112,20 @@ Family platformFamily()
                 QStringLiteral("Writes a line to the process's log, with its place in the source."),
                 showCuteMessageLogger,
                 {},
+            },
+            {
+                QStringLiteral("QCopChannel"),
+                QStringLiteral("Named channels on which the programs of one user send each other "
+                               "messages."),
+                showQCopChannel,
+                {},
+            },
+            {
+                QStringLiteral("OxSingleInstanceApplication"),
+                QStringLiteral("The application object of a program that runs at most once."),
+                showOxSingleInstanceApplication,
+                {},
+                QStringLiteral(":/gallery/main.cpp"),
             },
         },
     };
