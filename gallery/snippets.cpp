@@ -17,22 +17,9 @@ int indentation(const QString& line)
     return int(text - line.begin());
 }
 
-} // namespace
-
-QString Gallery::extractSnippet(const QString& source, const QString& name)
+/// The lines without the indentation that all of them have.
+QStringList outdented(QStringList lines)
 {
-    const QString mark = QStringLiteral("//! [%1]").arg(name);
-    QStringList lines;
-    bool inside = false;
-    const QStringList all = source.split(QLatin1Char('\n'));
-    for (const QString& line : all) {
-        if (line.trimmed() == mark) {
-            inside = !inside;
-        } else if (inside) {
-            lines.append(line);
-        }
-    }
-
     int common = std::numeric_limits<int>::max();
     for (const QString& line : std::as_const(lines)) {
         if (!line.trimmed().isEmpty()) {
@@ -42,7 +29,28 @@ QString Gallery::extractSnippet(const QString& source, const QString& name)
     for (QString& line : lines) {
         line = line.mid(std::min(common, indentation(line)));
     }
-    return lines.join(QLatin1Char('\n'));
+    return lines;
+}
+
+} // namespace
+
+QString Gallery::extractSnippet(const QString& source, const QString& name)
+{
+    const QString mark = QStringLiteral("//! [%1]").arg(name);
+    QStringList snippet;
+    QStringList part;
+    bool inside = false;
+    const QStringList all = source.split(QLatin1Char('\n'));
+    for (const QString& line : all) {
+        if (line.trimmed() == mark) {
+            snippet += outdented(part);
+            part.clear();
+            inside = !inside;
+        } else if (inside) {
+            part.append(line);
+        }
+    }
+    return snippet.join(QLatin1Char('\n'));
 }
 
 QString Gallery::snippet(const QString& path, const QString& name)

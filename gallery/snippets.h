@@ -7,8 +7,9 @@
 
 namespace Gallery {
 
-/// The lines of `source` between the two marks "//! [name]", without their common indentation and
-/// without the line break at the end; empty when there are no such marks.
+/// The lines of `source` between two marks "//! [name]", without their common indentation and
+/// without the line break at the end; empty when there are no such marks. Several such parts follow
+/// each other.
 QString extractSnippet(const QString& source, const QString& name);
 
 /// The snippet of that name in the embedded source at `path`.

@@ -202,7 +202,8 @@ void TestGallery::aSnippetIsCutBetweenItsMarks_data()
     QTest::newRow("an empty line keeps the indentation of the others")
         << QStringLiteral("    //! [A]\n    a();\n\n    b();\n    //! [A]\n")
         << QStringLiteral("a();\n\nb();");
-    QTest::newRow("two parts") << QStringLiteral("//! [A]\na\n//! [A]\nx\n//! [A]\nb\n//! [A]")
+    QTest::newRow("two parts") << QStringLiteral(
+        "//! [A]\na\n//! [A]\nx\n  //! [A]\n  b\n  //! [A]")
                                << QStringLiteral("a\nb");
 }
 

@@ -74,19 +74,18 @@ void showOxSingleInstanceApplication(Stage& stage)
 
 void showQCopChannel(Stage& stage)
 {
-    auto* name = new QLabel(QStringLiteral("Gallery/Demonstration"));
+    auto* last = new QLabel(QStringLiteral("none yet"));
     //! [QCopChannel]
-    auto* channel = new QCopChannel(QStringLiteral("Gallery/Demonstration"), name);
-    QObject::connect(channel, &QCopChannel::received, name,
-                     [name](const QString& message) { name->setText(message); });
+    auto* channel = new QCopChannel(QStringLiteral("Gallery/Mounts"), last);
+    QObject::connect(channel, &QCopChannel::received, last, &QLabel::setText);
     //! [QCopChannel]
-    stage.addWide(QStringLiteral("Last message received"), name);
+    stage.addWide(QStringLiteral("Last message received"), last);
     stage.watch(QStringLiteral("Channel"), channel);
     const char* const messages[] { "mounts", "add", "remove" };
     for (const char* message : messages) {
         stage.addAction(QStringLiteral("Send \"%1\"").arg(QLatin1String(message)), [message] {
             //! [QCopChannel]
-            QCopChannel::send(QStringLiteral("Gallery/Demonstration"), QString::fromLatin1(message),
+            QCopChannel::send(QStringLiteral("Gallery/Mounts"), QLatin1String(message),
                               QByteArrayLiteral("/media/stick"));
             //! [QCopChannel]
         });
