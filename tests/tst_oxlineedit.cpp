@@ -31,7 +31,7 @@ void TestOxLineEdit::reportsEveryPressAfterTheBaseHasHandledIt()
             [&] { cursor = field.cursorPosition(); });
     QSignalSpy pressed(&field, &OxLineEdit::mousePressedSignal);
 
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    for (const Qt::MouseButton button : { Qt::LeftButton, Qt::RightButton, Qt::MiddleButton }) {
         QTest::mousePress(&field, button, {}, QPoint(2, field.height() / 2));
     }
 

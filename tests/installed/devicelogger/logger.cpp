@@ -7,8 +7,7 @@
 #include <cstdio>
 
 class Logger
-{
-};
+{ };
 
 Logger* loggerInstance()
 {
@@ -18,8 +17,7 @@ Logger* loggerInstance()
 
 CuteMessageLogger::CuteMessageLogger(Logger* /*logger*/, int /*level*/, const char* /*file*/,
                                      int /*line*/, const char* /*function*/)
-{
-}
+{ }
 
 void CuteMessageLogger::write(const char* format, ...) const
 {
