@@ -11,6 +11,9 @@ const QList<Gallery::Family>& Gallery::families()
     static const QList<Family> all {
         lookFamily(),
         inputsFamily(),
+        touchHelpersFamily(),
+        controlsFamily(),
+        coloursFamily(),
         platformFamily(),
     };
     return all;

@@ -22,7 +22,8 @@ struct DialogState
     QString id;
     /// Text of the button that opens it.
     QString caption;
-    /// Shows the dialog and returns when it has been ended, as the static helpers do.
+    /// Shows the dialog, or another window or a popup, and returns when it has been ended, as the
+    /// static helpers do.
     std::function<void()> open;
 };
 

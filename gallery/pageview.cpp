@@ -88,7 +88,6 @@ void PageView::showPage(const Family& family, const Page& page)
     }
     grid->setRowStretch(grid->rowCount(), 1);
     m_instances->setWidget(content);
-    m_instances->setVisible(bool(page.build));
 
     fillDialogButtons(page);
 }

@@ -33,6 +33,12 @@ const QMetaObject* declaringClass(const QMetaObject* meta, int index)
     return meta;
 }
 
+bool isWorthLogging(const QMetaMethod& method)
+{
+    // A plain text field emits the latter whenever it is painted.
+    return method.methodType() == QMetaMethod::Signal && method.name() != "updateRequest";
+}
+
 bool isOurs(const QMetaObject* meta)
 {
     const QByteArray name = meta->className();
@@ -69,7 +75,7 @@ public:
         const QMetaObject* meta = object->metaObject();
         const int firstSlot = QObject::staticMetaObject.methodCount();
         for (int index = firstMethodOf(object); index < meta->methodCount(); ++index) {
-            if (meta->method(index).methodType() == QMetaMethod::Signal) {
+            if (isWorthLogging(meta->method(index))) {
                 QMetaObject::connect(object, index, this, firstSlot + int(m_signals.size()));
                 m_signals.push_back({ meta->method(index), isOurs(declaringClass(meta, index)) });
             }
@@ -155,6 +161,7 @@ void SignalLog::addLine(const QString& line, bool strong)
         end.insertBlock();
     }
     end.insertText(line, format);
+    end.movePosition(QTextCursor::StartOfBlock); // of a long line, the start is what matters
     setTextCursor(end);
     ensureCursorVisible();
 }

@@ -66,7 +66,10 @@ void Stage::addStates(const std::function<QWidget*(const QString&)>& make, const
     QWidget* disabled = make(text);
     disabled->setEnabled(false);
     add(QStringLiteral("Disabled"), disabled);
-    add(QStringLiteral("Long text"), make(longText()));
+    QWidget* longOne = make(longText());
+    // It gets the place that a short text has, as on the device.
+    longOne->setSizePolicy(QSizePolicy::Ignored, longOne->sizePolicy().verticalPolicy());
+    add(QStringLiteral("Long text"), longOne);
 }
 
 void Stage::addAction(const QString& text, const std::function<void()>& action)

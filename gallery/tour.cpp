@@ -14,6 +14,7 @@
 #include <QPixmap>
 #include <QStyleHints>
 #include <QTimer>
+#include <QWindow>
 
 #include <cstdio>
 
@@ -23,18 +24,46 @@ namespace {
 
 constexpr int DialogPatience = 5000; // milliseconds until a dialog counts as missing
 
+/// All windows that can be seen, in the order in which they were made: that is how they stack.
+QWidgetList visibleWindows()
+{
+    QWidgetList visible;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (const QWindow* window : windows) {
+        QWidget* widget = QWidget::find(window->winId());
+        if (widget != nullptr && widget->isVisible()) {
+            visible.append(widget);
+        }
+    }
+    return visible;
+}
+
 /// The screen as a person sees it: the window, and in front of it whatever else is open.
 QPixmap picture(GalleryWindow* window)
 {
     QPixmap screen = window->grab();
     QPainter painter(&screen);
-    const QWidgetList widgets = QApplication::topLevelWidgets();
+    const QWidgetList widgets = visibleWindows();
     for (QWidget* widget : widgets) {
-        if (widget != window && widget->isVisible()) {
+        if (widget != window) {
+            painter.setOpacity(widget->windowOpacity());
             painter.drawPixmap(widget->pos() - window->pos(), widget->grab());
         }
     }
     return screen;
+}
+
+/// What stands in front of the window and would be closed first; null when nothing does.
+QWidget* openedDialog(const GalleryWindow* window)
+{
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        return dialog;
+    }
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        return popup;
+    }
+    const QWidgetList widgets = visibleWindows();
+    return widgets.isEmpty() || widgets.constLast() == window ? nullptr : widgets.constLast();
 }
 
 bool save(const QPixmap& picture, const QString& path)
@@ -53,10 +82,7 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     waited.start();
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) {
-            dialog = QApplication::activePopupWidget();
-        }
+        QWidget* dialog = openedDialog(window);
         if (dialog == nullptr && waited.elapsed() < DialogPatience) {
             return;
         }

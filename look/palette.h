@@ -25,6 +25,9 @@
 #define LOOK_BUTTON_TOP "#5a5959"
 #define LOOK_BUTTON_BOTTOM "#060606"
 
+/// Colorize effect of a push button for as long as a finger holds it down.
+#define LOOK_TOUCH_TINT "#ff5800"
+
 /// Border, text, and top and bottom of the gradient of a disabled push button.
 #define LOOK_DISABLED_BORDER "#d3d3d3"
 #define LOOK_DISABLED_TEXT "#848484"
@@ -33,3 +36,6 @@
 
 /// Handle of the 35 px wide scroll bars.
 #define LOOK_SCROLL_HANDLE "#464646"
+
+/// Tick marks and numbers of a slider.
+#define LOOK_SLIDER_TICK "#a5a294"

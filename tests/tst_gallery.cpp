@@ -17,9 +17,11 @@
 #include <QDir>
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 #include <QSet>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void theWindowShowsThePageThatIsTappedInTheList();
     void anUnknownPageChangesNothing();
     void theTourWritesOnePicturePerPageAndDialog();
+    void theTourShowsTranslucentWindowsAsAPersonSeesThem();
     void theTourReportsAFolderItCannotMake();
     void theListNamesEveryPictureOfTheTour();
 
@@ -43,6 +46,7 @@ private Q_SLOTS:
     void theLogShowsSignalsWithTheirArguments();
     void theLogCountsRepeatedSignals();
     void theLogLeavesOutWhatEveryWidgetHas();
+    void theLogLeavesOutRepaints();
     void aResetLogIsSilent();
 };
 
@@ -166,6 +170,29 @@ void TestGallery::theTourWritesOnePicturePerPageAndDialog()
     QCOMPARE(different.count(), written.count());
 }
 
+void TestGallery::theTourShowsTranslucentWindowsAsAPersonSeesThem()
+{
+    const QTemporaryDir folder;
+    QVERIFY(Gallery::takeTour(folder.path()));
+    const auto pixel = [&](const char* picture, const QPoint& at) {
+        return QImage(folder.filePath(QLatin1String(picture))).pixelColor(at);
+    };
+    const QPoint bright(ScreenWidth - 5, 59);
+    const QPoint dimmed(ScreenWidth - 5, 60);
+    const QColor panelGrey(0xf2, 0xf2, 0xf2);
+
+    QCOMPARE(pixel("OxTransparentOverlay.png", bright), panelGrey);
+    QCOMPARE(pixel("OxTransparentOverlay-dimmed.png", bright), panelGrey);
+    QCOMPARE(pixel("OxTransparentOverlay.png", dimmed), panelGrey);
+    const int seventyPercent = 0xf2 * 7 / 10;
+    QVERIFY(qAbs(pixel("OxTransparentOverlay-dimmed.png", dimmed).red() - seventyPercent) <= 2);
+
+    // The panel stands in front of what dims the screen.
+    QVERIFY(qAbs(pixel("OxTransparentContainer-panel.png", dimmed).red() - seventyPercent) <= 2);
+    const QPoint betweenSwatches(ScreenWidth / 2 - 25, ScreenHeight / 2 + 20);
+    QCOMPARE(pixel("OxTransparentContainer-panel.png", betweenSwatches), panelGrey);
+}
+
 void TestGallery::theTourReportsAFolderItCannotMake()
 {
     const QTemporaryDir folder;
@@ -249,6 +276,18 @@ void TestGallery::theLogLeavesOutWhatEveryWidgetHas()
     log.watch(QStringLiteral("Label"), &label);
     label.setWindowTitle(QStringLiteral("title"));
     label.setObjectName(QStringLiteral("name"));
+    QCOMPARE(log.toPlainText(), QString());
+}
+
+void TestGallery::theLogLeavesOutRepaints()
+{
+    Gallery::SignalLog log;
+    QPlainTextEdit field;
+    QSignalSpy repainted(&field, &QPlainTextEdit::updateRequest);
+    log.watch(QStringLiteral("Field"), &field);
+    field.setFocus();
+    field.show();
+    QTRY_VERIFY(!repainted.isEmpty());
     QCOMPARE(log.toPlainText(), QString());
 }
 

@@ -3,6 +3,8 @@
 
 #include "oxlineedit.h"
 
+#include "support/fieldform.h"
+#include "support/finger.h"
 #include "support/test.h"
 
 #include <QApplication>
@@ -13,13 +15,22 @@ class TestOxLineEdit : public Test
     Q_OBJECT
 
 private Q_SLOTS:
-    void isNamedAfterItsClass();
+    void canBeMadeWithItsText();
     void reportsEveryPressAfterTheBaseHasHandledIt();
+    void reportsThePressOfATapAndNotItsRelease();
+    void reportsNoPressWhileItIsDisabled();
+    void reportsTheLossAfterTheBaseHasHandledIt();
+    void selectsNothingOnGainingTheFocusByATap();
 };
 
-void TestOxLineEdit::isNamedAfterItsClass()
+void TestOxLineEdit::canBeMadeWithItsText()
 {
-    QCOMPARE(OxLineEdit().objectName(), QStringLiteral("OxLineEdit"));
+    QWidget parent;
+    const auto* field = new OxLineEdit(QStringLiteral("text"), &parent);
+
+    QCOMPARE(field->text(), QStringLiteral("text"));
+    QCOMPARE(field->parentWidget(), &parent);
+    QCOMPARE(field->objectName(), QStringLiteral("OxLineEdit"));
     QCOMPARE(OxLineEdit(QStringLiteral("text")).objectName(), QStringLiteral("OxLineEdit"));
 }
 
@@ -37,6 +48,58 @@ void TestOxLineEdit::reportsEveryPressAfterTheBaseHasHandledIt()
 
     QCOMPARE(pressed.count(), 3);
     QCOMPARE(cursor, 0);
+}
+
+void TestOxLineEdit::reportsThePressOfATapAndNotItsRelease()
+{
+    auto* field = new OxLineEdit;
+    const FieldForm form(field);
+    QSignalSpy pressed(field, &OxLineEdit::mousePressedSignal);
+    Finger finger;
+
+    finger.press(field);
+    QCOMPARE(pressed.count(), 1);
+    finger.release();
+    QCOMPARE(pressed.count(), 1);
+}
+
+void TestOxLineEdit::reportsNoPressWhileItIsDisabled()
+{
+    auto* field = new OxLineEdit;
+    const FieldForm form(field);
+    field->setEnabled(false);
+    QSignalSpy pressed(field, &OxLineEdit::mousePressedSignal);
+
+    Finger().tap(field);
+
+    QCOMPARE(pressed.count(), 0);
+}
+
+void TestOxLineEdit::reportsTheLossAfterTheBaseHasHandledIt()
+{
+    auto* field = new OxLineEdit;
+    FieldForm form(field);
+    form.enter();
+    QTest::keyClicks(field, QStringLiteral("a"));
+    QStringList order;
+    connect(field, &OxLineEdit::focusLost, this, [&] { order += QStringLiteral("lost"); });
+    connect(field, &OxLineEdit::editingFinished, this, [&] { order += QStringLiteral("edited"); });
+
+    form.leave();
+
+    QCOMPARE(order, QStringList({ QStringLiteral("edited"), QStringLiteral("lost") }));
+}
+
+void TestOxLineEdit::selectsNothingOnGainingTheFocusByATap()
+{
+    auto* field = new OxLineEdit(QStringLiteral("text"));
+    const FieldForm form(field);
+
+    Finger().tap(field);
+    QCoreApplication::processEvents();
+
+    QVERIFY(field->hasFocus());
+    QVERIFY(!field->hasSelectedText());
 }
 
 UW_TEST_MAIN(TestOxLineEdit)

@@ -9,8 +9,11 @@
 
 namespace Gallery {
 
+Family coloursFamily();
+Family controlsFamily();
 Family inputsFamily();
 Family lookFamily();
 Family platformFamily();
+Family touchHelpersFamily();
 
 } // namespace Gallery

@@ -47,3 +47,11 @@ void Finger::tap(QWidget* widget, const QPoint& at)
     press(widget, at);
     release();
 }
+
+void Finger::doubleTap(QWidget* widget)
+{
+    m_window = widget->window()->windowHandle();
+    m_position = widget->mapToGlobal(widget->rect().center());
+    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier,
+                       m_window->mapFromGlobal(m_position));
+}

@@ -26,6 +26,8 @@ public:
 
     void tap(QWidget* widget);
     void tap(QWidget* widget, const QPoint& at);
+    /// Two taps on the centre of `widget`, quick enough to be a double click.
+    void doubleTap(QWidget* widget);
 
     QPoint position() const { return m_position; }
 
