@@ -923,7 +923,7 @@ void TestQCopChannel::aStoppedListenerCostsOneSecondAtMost()
     }
     QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
     timer.restart();
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 100; ++i) {
         QVERIFY(!QCopChannel::send(Name, QStringLiteral("lost"), QByteArray(size, 'x')));
     }
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));

@@ -3,10 +3,12 @@
 
 #include "logger.h"
 
+#include <QByteArray>
 #include <QLoggingCategory>
-#include <QString>
 
+#include <algorithm>
 #include <cstdarg>
+#include <cstdio>
 
 class Logger
 {
@@ -17,15 +19,32 @@ private:
     QLoggingCategory m_category { "UtilityWidgets" };
 };
 
+namespace {
+
+QtMsgType messageType(int level)
+{
+    if (level <= CuteMessageLogger::Debug) {
+        return QtDebugMsg;
+    }
+    if (level == CuteMessageLogger::Info) {
+        return QtInfoMsg;
+    }
+    // Never QtFatalMsg: that would abort the host.
+    return level == CuteMessageLogger::Warning ? QtWarningMsg : QtCriticalMsg;
+}
+
+} // namespace
+
 Logger* loggerInstance()
 {
-    static Logger logger;
-    return &logger;
+    // Never destroyed: destructors of other static objects may have something to say.
+    static auto* const logger = new Logger;
+    return logger;
 }
 
 CuteMessageLogger::CuteMessageLogger(Logger* logger, int level, const char* file, int line,
                                      const char* function)
-    : m_logger(logger)
+    : m_logger(logger != nullptr ? logger : loggerInstance())
     , m_level(level)
     , m_file(file)
     , m_line(line)
@@ -34,21 +53,29 @@ CuteMessageLogger::CuteMessageLogger(Logger* logger, int level, const char* file
 
 void CuteMessageLogger::write(const char* format, ...) const
 {
+    const QLoggingCategory& category = m_logger->category();
+    const QtMsgType type = messageType(m_level);
+    if (!category.isEnabled(type)) {
+        return;
+    }
     va_list arguments;
     va_start(arguments, format);
-    const QByteArray text = QString::vasprintf(format, arguments).toUtf8();
+    va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
+    QByteArray text(std::max(length, 0), Qt::Uninitialized);
+    std::vsnprintf(text.data(), size_t(text.size()) + 1, format, again);
+    va_end(again);
 
     const QMessageLogger log(m_file, m_line, m_function);
-    const QLoggingCategory& category = m_logger->category();
-    if (m_level <= Debug) {
+    if (type == QtDebugMsg) {
         log.debug(category, "%s", text.constData());
-    } else if (m_level == Info) {
+    } else if (type == QtInfoMsg) {
         log.info(category, "%s", text.constData());
-    } else if (m_level == Warning) {
+    } else if (type == QtWarningMsg) {
         log.warning(category, "%s", text.constData());
     } else {
-        // Never QMessageLogger::fatal(): that would abort the host.
         log.critical(category, "%s", text.constData());
     }
 }

@@ -8,7 +8,8 @@
 /// The process's log. Opaque: it is only handed to CuteMessageLogger.
 class Logger;
 
-/// The one logger of this process; never null, valid until the process ends, from any thread.
+/// The one logger of this process; never null. Any thread, and until the process has ended: also
+/// destructors of static objects may use it.
 UTILITYWIDGETS_EXPORT Logger* loggerInstance();
 
 /*!
@@ -40,7 +41,7 @@ public:
         Fatal = 5,
     };
 
-    /// `file` and `function` must live until write() returns; they are not copied. A level outside
+    /// `logger` is loggerInstance(); null means the same. `file` and `function` must live until write() returns; they are not copied. A level outside
     /// 0 to 5 counts as the nearest one.
     CuteMessageLogger(Logger* logger, int level, const char* file, int line, const char* function);
 
