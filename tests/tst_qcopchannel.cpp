@@ -16,6 +16,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <future>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -421,34 +422,38 @@ void TestQCopChannel::aNestedEventLoopNeitherLosesNorReordersMessages()
     QTRY_COMPARE(texts, numbers(10));
 }
 
+// Threads that have an event loop are made without QThread here: how it hands things over is hidden
+// from ThreadSanitizer.
+
 void TestQCopChannel::objectsMayLiveInAnyThread()
 {
-    QThread thread;
-    thread.start();
-    QObject context;
-    context.moveToThread(&thread);
-    QStringList texts; // touched by that thread alone until it has ended
-    QThread* deliveredIn = nullptr;
-    QMetaObject::invokeMethod(
-        &context,
-        [&] {
-            auto* channel = new QCopChannel(Name);
-            connect(channel, &QCopChannel::received, channel, [&, channel](const QString& msg) {
-                texts += msg;
-                deliveredIn = QThread::currentThread();
-                if (msg == QStringLiteral("9")) {
-                    delete channel;
-                    thread.quit();
-                }
-            });
-        },
-        Qt::BlockingQueuedConnection);
+    QStringList texts;
+    bool deliveredInItsThread = true;
+    std::promise<void> listening;
+    std::thread thread([&] {
+        QEventLoop loop;
+        const QCopChannel channel(Name);
+        connect(&channel, &QCopChannel::received, &channel, [&](const QString& msg) {
+            texts += msg;
+            deliveredInItsThread =
+                deliveredInItsThread && QThread::currentThread() == channel.thread();
+            if (texts.size() == 11) {
+                loop.quit();
+            }
+        });
+        listening.set_value();
+        loop.exec();
+    });
+    listening.get_future().wait();
     for (const QString& number : numbers(10)) {
         QVERIFY(QCopChannel::send(Name, number));
     }
-    QVERIFY(thread.wait(20000));
-    QCOMPARE(texts, numbers(10));
-    QCOMPARE(deliveredIn, &thread);
+    SecondProcess sender = sendElsewhere(1, 1);
+    thread.join();
+    texts.removeOne(QStringLiteral("0")); // one of the two
+    QVERIFY(texts.removeOne(QStringLiteral("0")));
+    QCOMPARE(texts, numbers(10).mid(1));
+    QVERIFY(deliveredInItsThread);
 }
 
 void TestQCopChannel::anyThreadMaySend()
@@ -506,27 +511,33 @@ void TestQCopChannel::anObjectMayDieWhileOthersSendToIt()
 
 void TestQCopChannel::anObjectMayMoveToAnotherThread()
 {
-    QThread thread;
-    thread.start();
     auto* channel = new QCopChannel(Name);
     QStringList texts;
+    std::promise<QEventLoop*> running;
+    std::promise<void> moved;
+    std::thread thread([&] {
+        QEventLoop loop;
+        running.set_value(&loop);
+        moved.get_future().wait();
+        loop.exec();
+        delete channel;
+    });
+    QEventLoop* loop = running.get_future().get();
     connect(
         channel, &QCopChannel::received, channel,
         [&](const QString& msg) {
             texts += msg;
             if (texts.size() == 3) {
-                delete channel;
-                thread.quit();
+                loop->quit();
             }
         },
         Qt::DirectConnection);
-    QCopChannel::send(Name, QStringLiteral("0"));
-    channel->moveToThread(&thread);
-    // From another process, because that comes in through the socket.
-    SecondProcess sender = sendElsewhere(2, 1);
-    QCOMPARE(sender.waitForEnd(), 0);
-    QVERIFY(thread.wait(20000));
-    QCOMPARE(texts.size(), 3);
+    QVERIFY(QCopChannel::send(Name, QStringLiteral("here")));
+    channel->moveToThread(loop->thread());
+    moved.set_value();
+    SecondProcess sender = sendElsewhere(2, 1); // comes in through the socket
+    thread.join();
+    QCOMPARE(texts, QStringList(QStringLiteral("here")) + numbers(2));
 }
 
 void TestQCopChannel::textAndDataArriveExactly_data()

@@ -5,23 +5,16 @@
 
 #include "coplog.h"
 
-#include <QMetaObject>
-
 #include <atomic>
 #include <iterator>
 
 namespace Cop {
 
-Inbox::Inbox(QObject* receiver, std::function<void()> deliver)
-    : m_receiver(receiver)
-    , m_deliver(std::move(deliver))
-{ }
-
 void Inbox::put(const Message& message)
 {
     const std::lock_guard lock(m_mutex);
     m_messages.push_back(message);
-    postDelivery();
+    signalOnce();
 }
 
 void Inbox::put(std::deque<Message>&& messages)
@@ -40,7 +33,7 @@ bool Inbox::take(Message& message)
     message = std::move(m_messages.front());
     m_messages.pop_front();
     if (!m_messages.empty()) {
-        postDelivery();
+        signalOnce();
     }
     return true;
 }
@@ -51,19 +44,17 @@ bool Inbox::isEmpty()
     return m_messages.empty();
 }
 
-void Inbox::postDelivery()
+void Inbox::acknowledge()
 {
-    if (std::exchange(m_deliveryPosted, true)) {
-        return;
+    const std::lock_guard lock(m_mutex);
+    m_signalled = false;
+}
+
+void Inbox::signalOnce()
+{
+    if (!std::exchange(m_signalled, true)) {
+        Q_EMIT filled();
     }
-    const auto deliver = [this] {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_deliveryPosted = false;
-        }
-        m_deliver(); // after which this may be gone
-    };
-    QMetaObject::invokeMethod(m_receiver, deliver, Qt::QueuedConnection);
 }
 
 Process& Process::self()
@@ -162,3 +153,5 @@ std::shared_ptr<Outbox> Process::outbox(const QString& channel)
 }
 
 } // namespace Cop
+
+#include "moc_copprocess.cpp"

@@ -12,7 +12,6 @@
 #include <QSet>
 
 #include <deque>
-#include <functional>
 #include <memory>
 #include <mutex>
 
@@ -21,28 +20,32 @@
 namespace Cop {
 
 /// The messages that a channel object has not handed out yet, wherever they came from. Any thread.
-class Inbox
+class Inbox : public QObject
 {
-public:
-    /// `deliver` is called through the event loop of `receiver` when messages wait.
-    Inbox(QObject* receiver, std::function<void()> deliver);
+    Q_OBJECT
 
+public:
     void put(const Message& message);
-    /// Puts them without a call of `deliver`: the caller is about to take them.
+    /// Puts them without a signal: the caller is about to take them.
     void put(std::deque<Message>&& messages);
-    /// Takes the first message. Sees to it that `deliver` is called if that was not the last, so
-    /// that the caller may forget the others, or run an event loop that must not pass them by.
+    /// Takes the first message. Signals if that was not the last, so that the caller may forget
+    /// the others, or run an event loop that must not pass them by.
     bool take(Message& message);
+    /// To be called for each signal.
+    void acknowledge();
     bool isEmpty();
 
-private:
-    void postDelivery();
+Q_SIGNALS:
+    /// Messages wait. From any thread, so to be connected with a queued connection; not repeated
+    /// before it is acknowledged.
+    void filled();
 
-    QObject* const m_receiver;
-    const std::function<void()> m_deliver;
+private:
+    void signalOnce();
+
     std::mutex m_mutex; // protects what follows
     std::deque<Message> m_messages;
-    bool m_deliveryPosted = false;
+    bool m_signalled = false;
 };
 
 /// The listeners of this process, and what it keeps to send to others. Any thread.

@@ -34,8 +34,14 @@ public:
 QCopChannel::Private::Private(QCopChannel* object, const QString& channelName)
     : q(object)
     , channel(channelName)
-    , inbox(object, [this] { deliver(); })
 {
+    connect(
+        &inbox, &Cop::Inbox::filled, q,
+        [this] {
+            inbox.acknowledge();
+            deliver();
+        },
+        Qt::QueuedConnection);
     // Before other processes know of us, so that our own never takes our files for somebody else's.
     Cop::Process::self().add(channel, &inbox, files);
     endpoint = Cop::Endpoint::create(files);
