@@ -24,6 +24,7 @@ namespace Cop {
 
 namespace {
 
+constexpr char RuntimeVariable[] = "XDG_RUNTIME_DIR";
 constexpr char LockSuffix[] = ".lock";
 constexpr char SocketSuffix[] = ".sock";
 constexpr char UnfinishedSuffix[] = ".new";
@@ -42,7 +43,7 @@ struct Location
 
 Location location()
 {
-    QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
+    QByteArray runtime = qgetenv(RuntimeVariable);
     while (runtime.endsWith('/') && runtime.size() > 1) {
         runtime.chop(1); // or a symbolic link would be followed
     }
@@ -66,6 +67,20 @@ timespec coarseNow()
     return now;
 }
 
+/// Whether a change after `now`, which was read before the folder was, shows in its times.
+///
+/// They only move on with the kernel's coarse clock. One that was read in the same tick as the
+/// last change would look the same after the next.
+bool isSettled(const struct stat& folder, const timespec& now)
+{
+    constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
+    // Ten ticks of the slowest clock; or more than the two seconds that some file systems count in.
+    const qint64 margin = (folder.st_mtim.tv_nsec == 0 ? 3000 : 100) * qint64(1'000'000);
+    const qint64 age = (now.tv_sec - folder.st_mtim.tv_sec) * NanosecondsPerSecond
+        + (now.tv_nsec - folder.st_mtim.tv_nsec);
+    return age > margin;
+}
+
 } // namespace
 
 void FileDescriptor::close()
@@ -83,36 +98,11 @@ QByteArray fileNamePrefix(const QString& channel)
         + '.';
 }
 
-QByteArray folderPath()
-{
-    return location().path();
-}
-
-FolderStamp::FolderStamp(QByteArray path, const struct stat& folder, const timespec& now)
-    : m_path(std::move(path))
-    , m_folder(folder)
-{
-    constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
-    // Ten ticks of the slowest clock; or more than the two seconds that some file systems count in.
-    const qint64 margin = (folder.st_mtim.tv_nsec == 0 ? 3000 : 100) * qint64(1'000'000);
-    const qint64 age = (now.tv_sec - folder.st_mtim.tv_sec) * NanosecondsPerSecond
-        + (now.tv_nsec - folder.st_mtim.tv_nsec);
-    m_settled = age > margin;
-}
-
-bool FolderStamp::isCurrent() const
-{
-    struct stat now = {};
-    return m_settled && folderPath() == m_path && ::lstat(m_path.constData(), &now) == 0
-        && now.st_dev == m_folder.st_dev && now.st_ino == m_folder.st_ino
-        && now.st_mode == m_folder.st_mode && now.st_uid == m_folder.st_uid
-        && sameTime(now.st_mtim, m_folder.st_mtim) && sameTime(now.st_ctim, m_folder.st_ctim);
-}
-
 Folder Folder::open(IfMissing ifMissing)
 {
     const Location place = location();
     Folder folder;
+    folder.m_environment = qgetenv(RuntimeVariable);
     const FileDescriptor parent(
         ::open(place.parent.constData(),
                O_PATH | O_DIRECTORY | O_CLOEXEC | (place.parentIsPrivate ? O_NOFOLLOW : 0)));
@@ -156,8 +146,17 @@ bool Folder::check(const QByteArray& path)
             path.constData());
         return false;
     }
-    m_stamp = FolderStamp(path, folder, now);
+    m_found = folder;
+    m_settled = isSettled(folder, now);
     return true;
+}
+
+bool Folder::isCurrent() const
+{
+    // A folder that was renamed or removed has another time of change as well.
+    struct stat now = {};
+    return m_settled && ::fstat(fd(), &now) == 0 && sameTime(now.st_mtim, m_found.st_mtim)
+        && sameTime(now.st_ctim, m_found.st_ctim) && qgetenv(RuntimeVariable) == m_environment;
 }
 
 std::vector<QByteArray> Folder::listeners(const QByteArray& prefix,

@@ -12,8 +12,6 @@
 #include <utility>
 #include <vector>
 
-#include <ctime>
-
 #include <sys/stat.h>
 #include <sys/un.h>
 
@@ -52,31 +50,6 @@ private:
 /// What the file names of a channel's listeners begin with, whatever its name is made of.
 QByteArray fileNamePrefix(const QString& channel);
 
-/// Where the listeners' files stand; looked up in the environment each time.
-QByteArray folderPath();
-
-/*!
- * Tells whether the folder may have changed, at the price of one system call.
- *
- * A folder's time of modification only moves on with the kernel's coarse clock. One that was read
- * in the same tick as the last change would therefore hide the next: such a stamp is never
- * current.
- */
-class FolderStamp
-{
-public:
-    FolderStamp() = default;
-    /// `now` must have been read before `folder` was.
-    FolderStamp(QByteArray path, const struct stat& folder, const timespec& now);
-
-    bool isCurrent() const;
-
-private:
-    QByteArray m_path;
-    struct stat m_folder = {};
-    bool m_settled = false;
-};
-
 /*!
  * The folder in which the listeners of one user's processes find each other.
  *
@@ -97,7 +70,10 @@ public:
 
     bool isValid() const { return bool(m_fd); }
     int fd() const { return m_fd.get(); }
-    const FolderStamp& stamp() const { return m_stamp; }
+
+    /// Whether the listeners found now would be those that were found when it was opened. False
+    /// if that is not certain; costs one system call.
+    bool isCurrent() const;
 
     /// The living listeners of a channel, except those that `isOwn`, by the base names of their
     /// files. Removes what dead ones have left.
@@ -117,7 +93,9 @@ private:
     void removeFiles(const QByteArray& listener) const;
 
     FileDescriptor m_fd;
-    FolderStamp m_stamp;
+    QByteArray m_environment; // what the folder's place was made of
+    struct stat m_found = {};
+    bool m_settled = false;
 };
 
 /*!

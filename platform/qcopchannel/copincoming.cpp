@@ -75,14 +75,22 @@ void Incoming::read(std::deque<Message>& messages)
 
 void Incoming::startRound(std::deque<Message>& messages)
 {
-    acceptAll(messages);
-
-    // After accepting: what a sender wrote before it connected again is then seen to wait.
-    std::array<epoll_event, MaximumConnections + 1> events = {};
-    const int ready = ::epoll_wait(m_poll.get(), events.data(), int(events.size()), 0);
-    for (int i = 0; i < ready; ++i) {
-        if (events[size_t(i)].data.u64 != ListeningSocket) {
-            m_round.push_back({ events[size_t(i)].data.u64, 0 });
+    std::array<epoll_event, MaximumConnections + 1> events;
+    const auto wait = [&] {
+        return std::max(::epoll_wait(m_poll.get(), events.data(), int(events.size()), 0), 0);
+    };
+    const auto isListening = [](const epoll_event& event) {
+        return event.data.u64 == ListeningSocket;
+    };
+    int ready = wait();
+    if (std::any_of(events.begin(), events.begin() + ready, isListening)) {
+        // And look again: what a sender wrote before it connected again must be seen to wait.
+        acceptAll(messages);
+        ready = wait();
+    }
+    for (auto event = events.begin(); event != events.begin() + ready; ++event) {
+        if (!isListening(*event)) {
+            m_round.push_back({ event->data.u64, 0 });
         }
     }
     if (m_round.size() <= 1) {

@@ -59,7 +59,7 @@ Outbox::Outbox(const QString& channel, IsOwn isOwn)
 Outbox::Result Outbox::send(const QByteArray& frame)
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_stamp.isCurrent()) {
+    if (!m_folder.isCurrent()) {
         refresh();
     }
     std::vector<Attempt> attempts;
@@ -75,10 +75,10 @@ Outbox::Result Outbox::send(const QByteArray& frame)
 /// Brings the list of listeners up to date; those that are still there keep their connection.
 void Outbox::refresh()
 {
-    const Folder folder = Folder::open(Folder::IfMissing::Accept);
+    m_folder = Folder::open(Folder::IfMissing::Accept);
     std::vector<Peer> peers;
-    if (folder.isValid()) {
-        for (const QByteArray& name : folder.listeners(m_prefix, m_isOwn)) {
+    if (m_folder.isValid()) {
+        for (const QByteArray& name : m_folder.listeners(m_prefix, m_isOwn)) {
             const auto known = std::find_if(m_peers.begin(), m_peers.end(),
                                             [&](const Peer& peer) { return peer.name == name; });
             peers.push_back(known != m_peers.end() ? std::move(*known)
@@ -86,7 +86,6 @@ void Outbox::refresh()
         }
     }
     m_peers = std::move(peers);
-    m_stamp = folder.stamp();
 }
 
 /// Goes as far as possible without waiting for anything but a connection.
@@ -122,12 +121,7 @@ void Outbox::advance(Attempt& attempt, std::chrono::milliseconds connectTimeout)
 
 bool Outbox::connectPeer(Attempt& attempt, std::chrono::milliseconds timeout)
 {
-    const Folder folder = Folder::open(Folder::IfMissing::Accept);
-    if (!folder.isValid()) {
-        attempt.state = Attempt::State::Gone;
-        return false;
-    }
-    attempt.peer->socket = connectTo(folder, attempt.peer->name, timeout);
+    attempt.peer->socket = connectTo(m_folder, attempt.peer->name, timeout);
     if (attempt.peer->socket) {
         return true;
     }

@@ -56,7 +56,7 @@ private:
     const QByteArray m_prefix;
     const IsOwn m_isOwn;
     std::mutex m_mutex; // protects what follows; held while a listener is waited for
-    FolderStamp m_stamp;
+    Folder m_folder; // as it was when the listeners were looked for
     std::vector<Peer> m_peers;
 };
 
