@@ -68,7 +68,12 @@ Outbox::Result Outbox::send(const QByteArray& frame)
         attempts.push_back({ &peer, &frame });
         advance(attempts.back(), {});
     }
-    waitFor(attempts);
+    const auto isWaiting = [](const Attempt& attempt) {
+        return attempt.state == Attempt::State::Waiting;
+    };
+    if (std::any_of(attempts.begin(), attempts.end(), isWaiting)) {
+        waitFor(attempts);
+    }
     return conclude(attempts);
 }
 
