@@ -19,7 +19,7 @@ namespace Gallery {
 
 namespace {
 
-constexpr int ListWidth = 256; // pixels
+constexpr int ListWidth = 264; // pixels
 
 // Where an entry of the list keeps the positions of its family and page.
 enum Role {

@@ -14,6 +14,7 @@ const QList<Gallery::Family>& Gallery::families()
         touchHelpersFamily(),
         controlsFamily(),
         coloursFamily(),
+        panelsFamily(),
         platformFamily(),
     };
     return all;

@@ -39,3 +39,6 @@
 
 /// Tick marks and numbers of a slider.
 #define LOOK_SLIDER_TICK "#a5a294"
+
+/// Arrow buttons and frame of the tool box. Not quite the accent: a tone darker.
+#define LOOK_TOOL_ORANGE "#f37800"

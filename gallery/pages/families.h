@@ -13,6 +13,7 @@ Family coloursFamily();
 Family controlsFamily();
 Family inputsFamily();
 Family lookFamily();
+Family panelsFamily();
 Family platformFamily();
 Family touchHelpersFamily();
 

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "toolbox.h"
+
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace {
+
+int globalY(const QMouseEvent* event)
+{
+    return event->globalPosition().toPoint().y();
+}
+
+} // namespace
+
+ToolBox::ToolBox(QWidget* parent)
+    : QScrollArea(parent)
+{
+    setObjectName(QStringLiteral("ToolBox"));
+}
+
+void ToolBox::initialize(QSize size, QPoint position)
+{
+    m_insertionIndex = 0;
+    m_lastY = 0;
+    m_pressed = false;
+    m_origin = QPoint(position.x() + size.width(), position.y());
+    setFixedWidth(size.width());
+
+    m_columnLayout = new QVBoxLayout;
+    m_columnLayout->setSpacing(5);
+    m_columnLayout->setContentsMargins(0, 0, 0, 0);
+
+    m_columnWidget = new QWidget;
+    m_columnWidget->setFixedWidth(size.width());
+    m_columnWidget->move(m_origin);
+    m_columnWidget->setLayout(m_columnLayout);
+    setWidget(m_columnWidget);
+}
+
+void ToolBox::addPropertiesWidget(QWidget* panel)
+{
+    if (m_columnLayout != nullptr && panel != nullptr) {
+        m_columnLayout->insertWidget(nextIndex(), panel, 1, Qt::AlignTop);
+    }
+}
+
+void ToolBox::insertSpacerItem()
+{
+    if (m_columnLayout != nullptr) {
+        m_columnLayout->insertSpacerItem(
+            nextIndex(), new QSpacerItem(10, 500, QSizePolicy::Expanding, QSizePolicy::Expanding));
+    }
+}
+
+void ToolBox::clearLayout(QLayout* layout)
+{
+    if (layout == nullptr) {
+        return;
+    }
+    // An item that is a nested layout goes with the unique_ptr as well: it is the layout.
+    while (const std::unique_ptr<QLayoutItem> item { layout->takeAt(0) }) {
+        clearLayout(item->layout());
+        const std::unique_ptr<QWidget> widget(item->widget());
+    }
+}
+
+void ToolBox::setLayoutSpacing(int spacing)
+{
+    if (m_columnLayout != nullptr) {
+        m_columnLayout->setSpacing(spacing);
+    }
+}
+
+void ToolBox::mousePressEvent(QMouseEvent* event)
+{
+    if (!m_pressed) {
+        m_pressed = true;
+        m_lastY = globalY(event);
+    }
+    QScrollArea::mousePressEvent(event);
+}
+
+void ToolBox::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_pressed) {
+        QScrollBar* bar = verticalScrollBar();
+        bar->setSliderPosition(bar->sliderPosition() + m_lastY - globalY(event));
+        m_lastY = globalY(event);
+    }
+    QScrollArea::mouseMoveEvent(event);
+}
+
+void ToolBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    m_pressed = false;
+    QScrollArea::mouseReleaseEvent(event);
+}
+
+/// Where the next panel goes. Clearing the column leaves the index behind, and a layout must not be
+/// given one beyond its end.
+int ToolBox::nextIndex()
+{
+    m_insertionIndex = qMin(m_insertionIndex, m_columnLayout->count());
+    return m_insertionIndex++;
+}
+
+#include "moc_toolbox.cpp"

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QPoint>
+#include <QScrollArea>
+#include <QSize>
+
+class QLayout;
+class QVBoxLayout;
+
+/*!
+ * \brief A column of panels that scrolls when a finger drags over it.
+ *
+ * Applications place a ToolBoxContainer, which adds the arrow buttons, and reach its tool box
+ * through it. Use ToolBox alone only where there is no room for the arrows:
+ *
+ * \code
+ * auto* box = new ToolBox(this);
+ * box->initialize(QSize(220, 400), QPoint(0, 0));
+ * box->setWidgetResizable(true);
+ * box->addPropertiesWidget(new LockWidget(false, box));
+ * box->insertSpacerItem();
+ * \endcode
+ *
+ * A drag scrolls from its first pixel on and does not suppress the click of a button that it ends
+ * on; panels that need that use DragScrollButton.
+ *
+ * Until initialize() has been called there is no column, and adding to it does nothing.
+ */
+class UTILITYWIDGETS_EXPORT ToolBox : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ToolBox(QWidget* parent = nullptr);
+
+    /// Builds an empty column that is as wide as `size`, whose height has no meaning. The column
+    /// starts out at the right end of `size` placed at `position`. Calling it again deletes the
+    /// column with its panels and starts anew.
+    void initialize(QSize size, QPoint position);
+
+    /// Appends `panel`, which the tool box then owns, at the top of an equal share of the spare
+    /// height. Null is ignored.
+    void addPropertiesWidget(QWidget* panel);
+    /// Appends a space that takes what the panels leave free.
+    void insertSpacerItem();
+    /// Deletes everything in `layout`, nested layouts and widgets included, but not `layout`
+    /// itself. Null is ignored.
+    void clearLayout(QLayout* layout);
+    /// Pixels between two panels; 5 unless set.
+    void setLayoutSpacing(int spacing);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    int nextIndex();
+
+    int m_insertionIndex = 0;
+    int m_lastY = 0; // global, in pixels
+    bool m_pressed = false;
+    QPoint m_origin;
+    QVBoxLayout* m_columnLayout = nullptr;
+    QWidget* m_columnWidget = nullptr;
+};

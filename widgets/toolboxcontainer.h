@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QPoint>
+#include <QSize>
+#include <QWidget>
+
+class QLayout;
+class QPushButton;
+class ToolBox;
+
+/*!
+ * \brief A column of panels between two arrow buttons that scroll it.
+ *
+ * Use it for settings that do not fit on the screen. It scrolls by dragging (see ToolBox) and by
+ * an arrow button at the top and one at the bottom, which are there only while there is something
+ * in their direction:
+ *
+ * \code
+ * auto* tools = new ToolBoxContainer(this);
+ * tools->initialize(QSize(220, 400), QPoint(0, 0));
+ * tools->addPropertiesWidget(new LockWidget(false, tools));
+ * \endcode
+ *
+ * Before initialize() there is nothing in it: the operations do nothing and getToolBox() is null.
+ */
+class UTILITYWIDGETS_EXPORT ToolBoxContainer : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ToolBoxContainer(QWidget* parent = nullptr);
+
+    /// Builds the tool box and the buttons, all as wide as `size`; for `position` see
+    /// ToolBox::initialize(). Once only; later calls do nothing.
+    void initialize(QSize size, QPoint position);
+
+    /// \name What ToolBox offers
+    /// @{
+    void addPropertiesWidget(QWidget* panel);
+    void insertSpacerItem();
+    void clearLayout(QLayout* layout);
+    void setLayoutSpacing(int spacing);
+    /// @}
+
+    /// Shows or hides one button until the next scrolling or resizing decides anew.
+    void setAboveButtonVisible(bool visible);
+    void setBelowButtonVisible(bool visible);
+
+    ToolBox* getToolBox() const;
+
+    /*!
+     * Shows the buttons in whose direction there is something to scroll to.
+     *
+     * Processes pending events first, so that panels added just now count: slots of all kinds run,
+     * and one may even delete this container.
+     */
+    void determineButtonVisibility();
+
+    /// Scrolls until `widget`, which must be inside the tool box, is visible with 50 pixels around
+    /// it. Null is ignored.
+    void ensureVisibleWidget(QWidget* widget);
+
+    /// How far the tool box is scrolled, in pixels; 0 is the top.
+    void setToolBoxVerticalScrollValue(int value);
+    int getToolBoxVerticalScrollValue() const;
+
+public Q_SLOTS:
+    /// Scrolls up by 35 pixels, and all the way when no more than 70 are left.
+    void onAboveButtonClicked();
+    /// Scrolls down by 35 pixels, and all the way when no more than 70 are left.
+    void onBelowButtonClicked();
+    void onSliderValueChanged(int value);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+
+private:
+    void createToolBox(QSize size, QPoint position);
+    void createLayout();
+    void settleLayouts();
+    void updateButtons();
+    void followScrollBar(bool follow);
+
+    QPushButton* m_aboveButton = nullptr;
+    ToolBox* m_toolBox = nullptr;
+    QPushButton* m_belowButton = nullptr;
+    bool m_settling = false;
+};
