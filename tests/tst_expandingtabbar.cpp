@@ -91,6 +91,7 @@ private Q_SLOTS:
     void aTextThatIsNoColorRemovesTheSwatch();
     void anIndexOutOfRangeIsIgnored();
 
+    void aSwatchWithoutTextIsCentredLessFivePixels_data();
     void aSwatchWithoutTextIsCentredLessFivePixels();
     void iconAndTextAreCentredWithAGapOfFivePixels();
     void aTextWithoutIconIsCentredInTheTab();
@@ -311,12 +312,23 @@ void TestExpandingTabBar::anIndexOutOfRangeIsIgnored()
     QVERIFY(bar->tabIcon(0).isNull());
 }
 
+void TestExpandingTabBar::aSwatchWithoutTextIsCentredLessFivePixels_data()
+{
+    QTest::addColumn<int>("width");
+
+    // Of two neighbouring widths, one shows a gap that is a pixel off.
+    QTest::newRow("even tab") << 300;
+    QTest::newRow("odd tab") << 302;
+}
+
 void TestExpandingTabBar::aSwatchWithoutTextIsCentredLessFivePixels()
 {
-    const auto bar = createBar(301, { QString(), QString() });
+    QFETCH(const int, width);
+    const auto bar = createBar(width, { QString(), QString() }, 1);
     bar->setTabColorRect(0, QStringLiteral("magenta"));
     const QRect room = bar->tabRect(0).adjusted(0, 0, -5, 0);
 
+    QCOMPARE(bar->tabRect(0).width(), width / 2);
     QCOMPARE(paintedSwatch(bar.get()),
              QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, bar->iconSize(), room));
 }

@@ -58,9 +58,7 @@ void ExpandingTabBar::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     for (int index = 0; index < count(); ++index) {
-        if (isTabVisible(index)) {
-            paintTab(&painter, index);
-        }
+        paintTab(&painter, index);
     }
 }
 
@@ -83,9 +81,7 @@ void ExpandingTabBar::paintTab(QPainter* painter, int index)
     if (!icon.isNull()) {
         const int textWidth = fontMetrics().horizontalAdvance(text);
         const QRect iconRect = tab.adjusted(0, 0, -(textWidth + IconGap), 0);
-        if (!iconRect.isEmpty()) {
-            icon.paint(painter, iconRect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
-        }
+        icon.paint(painter, iconRect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
         textRect.setLeft(tab.left() + iconSize().width() + IconGap);
     }
     painter->drawText(textRect, Qt::AlignCenter, text);
