@@ -3,17 +3,18 @@
 
 #include "look/titlebarclosebutton.h"
 
+#include "look/icons.h"
 #include "look/images.h"
 
 #include <QCoreApplication>
 #include <QIcon>
 #include <QPushButton>
 
-QPushButton* Look::createTitleBarCloseButton(const QSize& size)
+QPushButton* Look::createTitleBarCloseButton(QWidget* parent, const QSize& size)
 {
-    auto* button = new QPushButton;
+    auto* button = new QPushButton(parent);
     button->setFlat(true);
-    button->setIcon(QIcon(QStringLiteral(LOOK_IMAGE_CLOSE)));
+    button->setIcon(icon(QStringLiteral(LOOK_IMAGE_CLOSE)));
     button->setIconSize(size);
     button->setFixedSize(size);
     button->setAutoDefault(false);

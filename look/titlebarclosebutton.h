@@ -5,11 +5,12 @@
 
 class QPushButton;
 class QSize;
+class QWidget;
 
 namespace Look {
 
-/// The close button of a title bar, fixed at `size`, without a parent. Enter never triggers it and Tab never stops
+/// The close button of the title bar `parent`, fixed at `size`. Enter never triggers it and Tab never stops
 /// at it: otherwise, being first in a dialog, it would become the default button.
-QPushButton* createTitleBarCloseButton(const QSize& size);
+QPushButton* createTitleBarCloseButton(QWidget* parent, const QSize& size);
 
 } // namespace Look

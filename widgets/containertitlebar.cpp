@@ -20,14 +20,16 @@ constexpr int TitlePointSize = 14;
 
 ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
     : QWidget(parent)
-    , m_titleLabel(new QLabel(title))
-    , m_closeButton(Look::createTitleBarCloseButton(CloseButtonSize))
 {
     setObjectName(QStringLiteral("ContainerTitleBar"));
     setStyleSheet(QStringLiteral("ContainerTitleBar { background-color: " LOOK_TITLE_CHARCOAL
                                  "; border: 1px solid " LOOK_ACCENT_ORANGE "; }\n"
                                  "QLabel { font-size: %1pt; color: white; font-weight: bold; }")
                       .arg(TitlePointSize));
+
+    // Children that are born under a sheet are styled once; those that move there, twice.
+    m_titleLabel = new QLabel(title, this);
+    m_closeButton = Look::createTitleBarCloseButton(this, CloseButtonSize);
 
     auto* layout = new QHBoxLayout;
     layout->setContentsMargins(10, 0, 10, 0);

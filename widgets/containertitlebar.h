@@ -26,7 +26,7 @@ class UTILITYWIDGETS_EXPORT ContainerTitleBar : public QWidget
     Q_OBJECT
 
 public:
-    ContainerTitleBar(QWidget* parent, const QString& title);
+    explicit ContainerTitleBar(QWidget* parent = nullptr, const QString& title = QString());
 
     void setTitle(const QString& title);
 
@@ -41,6 +41,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* m_titleLabel;
-    QPushButton* m_closeButton;
+    QLabel* m_titleLabel = nullptr;
+    QPushButton* m_closeButton = nullptr;
 };

@@ -12,23 +12,44 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
+#include <QWidgetItem>
+
+namespace {
+
+/// A layout cell that never gets wider than its widget. A box layout otherwise gives an aligned
+/// widget its share of the spare width, and in a wide bar the title would drift away from the icon.
+class SnugItem : public QWidgetItem
+{
+public:
+    using QWidgetItem::QWidgetItem;
+
+    QSize maximumSize() const override
+    {
+        return { sizeHint().width(), QWidgetItem::maximumSize().height() };
+    }
+};
+
+} // namespace
 
 OxTitleBar::OxTitleBar(QWidget* parent, const QString& iconPath, const QString& title)
     : QWidget(parent)
-    , m_iconLabel(new QLabel)
-    , m_titleLabel(new QLabel(title))
-    , m_closeButton(Look::createTitleBarCloseButton(CloseButtonSize))
 {
     setObjectName(QStringLiteral("TitleBarWidget"));
     setStyleSheet(barStyle());
 
+    // Children that are born under a sheet are styled once; those that move there, twice.
+    m_iconLabel = new QLabel(this);
     m_iconLabel->setFixedSize(29, 28);
     m_iconLabel->setAlignment(Qt::AlignCenter);
     setIconPath(iconPath);
+    m_titleLabel = new QLabel(title, this);
+    m_closeButton = Look::createTitleBarCloseButton(this, CloseButtonSize);
 
     auto* layout = new QHBoxLayout;
     layout->setContentsMargins(7, 0, 7, 0);
-    layout->addWidget(m_iconLabel, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    auto* iconItem = new SnugItem(m_iconLabel);
+    iconItem->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    layout->addItem(iconItem);
     layout->addWidget(m_titleLabel, 0, Qt::AlignLeft | Qt::AlignVCenter);
     layout->addSpacing(185);
     layout->addWidget(m_closeButton, 0, Qt::AlignRight | Qt::AlignVCenter);

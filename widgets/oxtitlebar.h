@@ -27,8 +27,10 @@ class UTILITYWIDGETS_EXPORT OxTitleBar : public QWidget
 
 public:
     /// `iconPath` is a file or resource that QPixmap reads, shown in 29 x 28 pixels. An empty path
-    /// or one that cannot be read leaves that place empty.
-    OxTitleBar(QWidget* parent, const QString& iconPath, const QString& title);
+    /// or one that cannot be read leaves that place empty. The bar grows with its title, which is
+    /// never cut off: keep it short.
+    explicit OxTitleBar(QWidget* parent = nullptr, const QString& iconPath = QString(),
+                        const QString& title = QString());
 
     /// Replaces the icon; a path that cannot be read leaves its place empty.
     void setIconPath(const QString& iconPath);
@@ -45,7 +47,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* m_iconLabel;
-    QLabel* m_titleLabel;
-    QPushButton* m_closeButton;
+    QLabel* m_iconLabel = nullptr;
+    QLabel* m_titleLabel = nullptr;
+    QPushButton* m_closeButton = nullptr;
 };

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "look/icons.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QIcon>
+
+namespace {
+
+QHash<QString, QIcon>& cache()
+{
+    static QHash<QString, QIcon> icons;
+    return icons;
+}
+
+/// An icon holds pixmaps, and those must not outlive the application object.
+void clearCache()
+{
+    cache().clear();
+}
+
+} // namespace
+
+QIcon Look::icon(const QString& path)
+{
+    if (cache().isEmpty()) {
+        qAddPostRoutine(clearCache);
+    }
+    QIcon& icon = cache()[path];
+    if (icon.isNull()) {
+        icon = QIcon(path);
+    }
+    return icon;
+}

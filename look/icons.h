@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class QIcon;
+class QString;
+
+namespace Look {
+
+/*!
+ * The icon made of our image `path`, read once for as long as the application object lives.
+ *
+ * Dialogs are made anew each time they are shown; reading and decoding the same images again takes
+ * a tenth of that time. Only for resources, which never change. GUI thread only.
+ */
+QIcon icon(const QString& path);
+
+} // namespace Look
