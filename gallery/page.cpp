@@ -10,11 +10,13 @@ const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
         lookFamily(),
+        dialogsFamily(),
         inputsFamily(),
-        touchHelpersFamily(),
         controlsFamily(),
         coloursFamily(),
         panelsFamily(),
+        scrollingFamily(),
+        touchHelpersFamily(),
         platformFamily(),
     };
     return all;

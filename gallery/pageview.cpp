@@ -21,6 +21,7 @@ namespace Gallery {
 namespace {
 
 constexpr int LowerHalfHeight = 150; // pixels
+constexpr int DialogColumns = 5;
 
 QPlainTextEdit* createSnippetView()
 {
@@ -44,7 +45,7 @@ PageView::PageView(QWidget* parent)
     , m_summary(new QLabel)
     , m_instances(new QScrollArea)
     , m_dialogBar(new QWidget)
-    , m_dialogButtons(new QHBoxLayout(m_dialogBar))
+    , m_dialogButtons(new QGridLayout(m_dialogBar))
     , m_snippet(createSnippetView())
     , m_log(new SignalLog)
 {
@@ -113,9 +114,9 @@ void PageView::fillDialogButtons(const Page& page)
         auto* button = new QPushButton(state.caption);
         button->setObjectName(QStringLiteral("GalleryButton"));
         connect(button, &QPushButton::clicked, this, state.open);
-        m_dialogButtons->addWidget(button);
+        const int index = m_dialogButtons->count();
+        m_dialogButtons->addWidget(button, index / DialogColumns, index % DialogColumns);
     }
-    m_dialogButtons->addStretch();
     m_dialogBar->setVisible(!page.dialogs.isEmpty());
 }
 

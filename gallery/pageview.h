@@ -7,7 +7,7 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
+class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
 class QScrollArea;
@@ -35,7 +35,7 @@ private:
     QLabel* m_summary;
     QScrollArea* m_instances;
     QWidget* m_dialogBar;
-    QHBoxLayout* m_dialogButtons;
+    QGridLayout* m_dialogButtons;
     QPlainTextEdit* m_snippet;
     SignalLog* m_log;
 };

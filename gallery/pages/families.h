@@ -11,10 +11,12 @@ namespace Gallery {
 
 Family coloursFamily();
 Family controlsFamily();
+Family dialogsFamily();
 Family inputsFamily();
 Family lookFamily();
 Family panelsFamily();
 Family platformFamily();
+Family scrollingFamily();
 Family touchHelpersFamily();
 
 } // namespace Gallery

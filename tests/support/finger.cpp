@@ -3,9 +3,23 @@
 
 #include "support/finger.h"
 
+#include <QApplication>
+#include <QPointingDevice>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
+
+namespace {
+
+constexpr int FingerNumber = 1;
+
+QPointingDevice* touchScreen()
+{
+    static QPointingDevice* device = QTest::createTouchDevice();
+    return device;
+}
+
+} // namespace
 
 void Finger::press(QWidget* widget)
 {
@@ -16,14 +30,13 @@ void Finger::press(QWidget* widget, const QPoint& at)
 {
     m_window = widget->window()->windowHandle();
     m_position = widget->mapToGlobal(at);
-    QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier,
-                      m_window->mapFromGlobal(m_position));
+    sendPress(m_window, m_window->mapFromGlobal(m_position));
 }
 
 void Finger::moveTo(const QPoint& global)
 {
     m_position = global;
-    QTest::mouseMove(m_window, m_window->mapFromGlobal(m_position));
+    sendMove(m_window, m_window->mapFromGlobal(m_position));
 }
 
 void Finger::moveBy(const QPoint& offset)
@@ -33,8 +46,7 @@ void Finger::moveBy(const QPoint& offset)
 
 void Finger::release()
 {
-    QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier,
-                        m_window->mapFromGlobal(m_position));
+    sendRelease(m_window, m_window->mapFromGlobal(m_position));
 }
 
 void Finger::tap(QWidget* widget)
@@ -54,4 +66,45 @@ void Finger::doubleTap(QWidget* widget)
     m_position = widget->mapToGlobal(widget->rect().center());
     QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier,
                        m_window->mapFromGlobal(m_position));
+}
+
+void Finger::sendPress(QWindow* window, const QPoint& at)
+{
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, at);
+}
+
+void Finger::sendMove(QWindow* window, const QPoint& at)
+{
+    QTest::mouseMove(window, at);
+}
+
+void Finger::sendRelease(QWindow* window, const QPoint& at)
+{
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, at);
+}
+
+TouchFinger::TouchFinger()
+    : m_doubleClickInterval(QApplication::doubleClickInterval())
+{
+    QApplication::setDoubleClickInterval(0);
+}
+
+TouchFinger::~TouchFinger()
+{
+    QApplication::setDoubleClickInterval(m_doubleClickInterval);
+}
+
+void TouchFinger::sendPress(QWindow* window, const QPoint& at)
+{
+    QTest::touchEvent(window, touchScreen()).press(FingerNumber, at, window);
+}
+
+void TouchFinger::sendMove(QWindow* window, const QPoint& at)
+{
+    QTest::touchEvent(window, touchScreen()).move(FingerNumber, at, window);
+}
+
+void TouchFinger::sendRelease(QWindow* window, const QPoint& at)
+{
+    QTest::touchEvent(window, touchScreen()).release(FingerNumber, at, window);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QtGlobal>
 
 class QWidget;
 class QWindow;
@@ -17,6 +18,10 @@ class QWindow;
 class Finger
 {
 public:
+    Finger() = default;
+    virtual ~Finger() = default;
+    Q_DISABLE_COPY_MOVE(Finger)
+
     /// Puts the finger down on the centre of `widget`, or at `at` in its coordinates.
     void press(QWidget* widget);
     void press(QWidget* widget, const QPoint& at);
@@ -31,7 +36,31 @@ public:
 
     QPoint position() const { return m_position; }
 
+protected:
+    /// What the finger does, at `at` in the coordinates of `window`.
+    virtual void sendPress(QWindow* window, const QPoint& at);
+    virtual void sendMove(QWindow* window, const QPoint& at);
+    virtual void sendRelease(QWindow* window, const QPoint& at);
+
 private:
     QWindow* m_window = nullptr;
     QPoint m_position;
+};
+
+/// The same by touch points, of which Qt makes mouse events where no widget takes them. While one
+/// exists no two taps are a double click, however fast the test is.
+class TouchFinger : public Finger
+{
+public:
+    TouchFinger();
+    ~TouchFinger() override;
+    Q_DISABLE_COPY_MOVE(TouchFinger)
+
+protected:
+    void sendPress(QWindow* window, const QPoint& at) override;
+    void sendMove(QWindow* window, const QPoint& at) override;
+    void sendRelease(QWindow* window, const QPoint& at) override;
+
+private:
+    int m_doubleClickInterval;
 };

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "look/housedialog.h"
+
+#include "look/icons.h"
+#include "look/images.h"
+
+#include <QDialog>
+#include <QIcon>
+
+void Look::prepareHouseDialog(QDialog* dialog)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose, false);
+    dialog->setAttribute(Qt::WA_QuitOnClose, false);
+    dialog->setWindowIcon(icon(QStringLiteral(LOOK_IMAGE_APPLICATION)));
+    dialog->setWindowTitle(QStringLiteral("Sigilant PRO"));
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+// The style sheets that more than one class uses: one function per family, its parameters the real
+// differences between the members. A sheet with a single user stays in that user's source.
+//
+// Each text is exact to the blank, because applications compare and append sheets. Sheets that look
+// almost alike are kept apart by name; unifying two of them by eye changes what is drawn.
+
+namespace Look {
+
+// --- panels -------------------------------------------------------------------------------------
+
+/// Grey panel in a one-pixel orange frame, for whatever `selector` names: "#OxInfoWidget". Ends in
+/// a blank, so that further rules can be appended.
+QString framedPanel(const QString& selector);
+
+// --- push buttons -------------------------------------------------------------------------------
+
+/// Gradient button of a message: a border of two pixels, no minimum height and no pressed colour,
+/// all three unlike the buttons of every other dialog.
+QString messageButton();
+
+} // namespace Look

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "look/palette.h"
+#include "look/sheets.h"
+
+#include "support/test.h"
+
+#include <QColor>
+
+// The full literal texts, on purpose: the only second copy of each sheet.
+class TestSheets : public Test
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void paletteIsExact_data();
+    void paletteIsExact();
+    void framedPanelEndsInABlank();
+    void messageButtonHasABorderOfTwoPixelsAndNoPressedColour();
+};
+
+void TestSheets::paletteIsExact_data()
+{
+    QTest::addColumn<QString>("colour");
+    QTest::addColumn<QString>("expected");
+
+    const auto add = [](const char* role, const char* colour, const char* expected) {
+        QTest::newRow(role) << QString::fromLatin1(colour) << QString::fromLatin1(expected);
+    };
+    add("accent orange", LOOK_ACCENT_ORANGE, "#fd7800");
+    add("hover orange", LOOK_HOVER_ORANGE, "#fda800");
+    add("panel grey", LOOK_PANEL_GREY, "#f2f2f2");
+    add("title charcoal", LOOK_TITLE_CHARCOAL, "#2b2b2b");
+    add("top of a button", LOOK_BUTTON_TOP, "#5a5959");
+    add("bottom of a button", LOOK_BUTTON_BOTTOM, "#060606");
+    add("border of a disabled button", LOOK_DISABLED_BORDER, "#d3d3d3");
+    add("text of a disabled button", LOOK_DISABLED_TEXT, "#848484");
+    add("top of a disabled button", LOOK_DISABLED_TOP, "#d3d3d3");
+    add("bottom of a disabled button", LOOK_DISABLED_BOTTOM, "#a8a8a8");
+    add("scroll bar handle", LOOK_SCROLL_HANDLE, "#464646");
+}
+
+void TestSheets::paletteIsExact()
+{
+    QFETCH(QString, colour);
+    QTEST(colour, "expected");
+    QVERIFY(QColor(colour).isValid());
+}
+
+void TestSheets::framedPanelEndsInABlank()
+{
+    QCOMPARE(Look::framedPanel(QStringLiteral("QWidget#MessageBoxWidget")),
+             QStringLiteral("QWidget#MessageBoxWidget { background-color: #f2f2f2; border: 1px "
+                            "solid #fd7800; } "));
+    QCOMPARE(
+        Look::framedPanel(QStringLiteral("#OxInfoWidget")),
+        QStringLiteral("#OxInfoWidget { background-color: #f2f2f2; border: 1px solid #fd7800; } "));
+}
+
+void TestSheets::messageButtonHasABorderOfTwoPixelsAndNoPressedColour()
+{
+    QCOMPARE(Look::messageButton(),
+             QStringLiteral("QPushButton { border: 2px solid #fd7800; color: white; font: bold; \n"
+                            "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+                            "0 #5a5959, stop: 1 #060606);\n"
+                            "border-radius: 6px; outline: 0;\n"
+                            "}"));
+}
+
+UW_TEST_MAIN(TestSheets)
+
+#include "tst_sheets.moc"

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "touch/draggesture.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QFocusEvent>
+#include <QScrollBar>
+#include <QWidget>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace Touch {
+
+bool DragGesture::isBeyondTapRange(const QPoint& position, Qt::Orientations counted) const
+{
+    const QPoint travelled = position - m_press;
+    return (counted.testFlag(Qt::Vertical) && std::abs(travelled.y()) > TapRange)
+        || (counted.testFlag(Qt::Horizontal) && std::abs(travelled.x()) > TapRange);
+}
+
+void DragGesture::begin(const QPoint& position)
+{
+    if (m_inProgress) {
+        return;
+    }
+    m_inProgress = true;
+    m_press = position;
+    m_last = position;
+}
+
+QPoint DragGesture::moveTo(const QPoint& position, Qt::Orientations counted)
+{
+    m_isDrag = m_isDrag || isBeyondTapRange(position, counted);
+    return std::exchange(m_last, position);
+}
+
+bool DragGesture::end()
+{
+    m_inProgress = false;
+    return std::exchange(m_isDrag, false);
+}
+
+void dragScrollBar(int previous, int current, QScrollBar* bar)
+{
+    const qint64 wanted = qint64(bar->sliderPosition()) + previous - current;
+    bar->setSliderPosition(
+        int(std::clamp<qint64>(wanted, bar->minimum(), std::max(bar->minimum(), bar->maximum()))));
+}
+
+bool losesFinger(const QWidget& widget, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::Hide:
+    case QEvent::WindowBlocked:
+        return true;
+    case QEvent::EnabledChange:
+        return !widget.isEnabled();
+    default:
+        return false;
+    }
+}
+
+bool holdsFocus(const QWidget* indexWidget)
+{
+    return indexWidget != nullptr && indexWidget->focusPolicy() != Qt::NoFocus
+        && indexWidget->isAncestorOf(QApplication::focusWidget());
+}
+
+ScrollPause::ScrollPause(QAbstractItemView* view, const QEvent& event)
+{
+    if (event.type() != QEvent::FocusIn && event.type() != QEvent::FocusOut) {
+        return;
+    }
+    if (static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason
+        && view->hasAutoScroll()) {
+        m_view = view;
+        view->setAutoScroll(false);
+    }
+}
+
+ScrollPause::~ScrollPause()
+{
+    if (m_view) {
+        m_view->setAutoScroll(true);
+    }
+}
+
+} // namespace Touch

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "dragscrolllistview.h"
+
+#include "touch/draggesture.h"
+
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+DragScrollListView::DragScrollListView(QWidget* parent)
+    : QListView(parent)
+    , m_gesture(std::make_unique<Touch::DragGesture>())
+{
+    setObjectName(QStringLiteral("DragScrollListView"));
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+DragScrollListView::~DragScrollListView() = default;
+
+void DragScrollListView::setHorizontalMovementEnabled(bool enabled)
+{
+    m_horizontalMovementEnabled = enabled;
+}
+
+void DragScrollListView::setSliderPosition(int previous, int current, QScrollBar* bar)
+{
+    Touch::dragScrollBar(previous, current, bar);
+}
+
+bool DragScrollListView::event(QEvent* event)
+{
+    if (Touch::losesFinger(*this, *event)) {
+        m_gesture->end();
+    }
+    const Touch::ScrollPause pause(this, *event);
+    return QListView::event(event);
+}
+
+bool DragScrollListView::eventFilter(QObject* object, QEvent* event)
+{
+    const Touch::ScrollPause pause(this, *event);
+    return QListView::eventFilter(object, event);
+}
+
+void DragScrollListView::mousePressEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mousePressEvent(event);
+}
+
+void DragScrollListView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void DragScrollListView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_gesture->isInProgress()) {
+        return;
+    }
+    const Qt::Orientations counted =
+        m_horizontalMovementEnabled ? Qt::Vertical | Qt::Horizontal : Qt::Vertical;
+    const QPoint current = event->globalPosition().toPoint();
+    const QPoint previous = m_gesture->moveTo(current, counted);
+    setSliderPosition(previous.y(), current.y(), verticalScrollBar());
+    if (m_horizontalMovementEnabled) {
+        setSliderPosition(previous.x(), current.x(), horizontalScrollBar());
+    }
+}
+
+void DragScrollListView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_gesture->end()) {
+        QListView::mouseReleaseEvent(event);
+        return;
+    }
+    const QScopedValueRollback swallowing(m_swallowingRelease, true);
+    const QSignalBlocker blocker(this);
+    QListView::mouseReleaseEvent(event);
+}
+
+void DragScrollListView::focusOutEvent(QFocusEvent* event)
+{
+    QListView::focusOutEvent(event);
+    Q_EMIT focusLost();
+}
+
+bool DragScrollListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    // The release of a drag must not toggle a check box or start an editor: with the signals
+    // blocked, nobody would even hear of it.
+    if (m_swallowingRelease) {
+        return false;
+    }
+    return Touch::holdsFocus(indexWidget(index)) || QListView::edit(index, trigger, event);
+}
+
+#include "moc_dragscrolllistview.cpp"

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "dragscrolllistwidget.h"
+
+#include "touch/draggesture.h"
+
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+DragScrollListWidget::DragScrollListWidget(QWidget* parent)
+    : QListWidget(parent)
+    , m_gesture(std::make_unique<Touch::DragGesture>())
+{
+    // The list view's name: one rule of a style sheet styles both.
+    setObjectName(QStringLiteral("DragScrollListView"));
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+DragScrollListWidget::~DragScrollListWidget() = default;
+
+void DragScrollListWidget::setHorizontalMovementEnabled(bool enabled)
+{
+    m_horizontalMovementEnabled = enabled;
+}
+
+void DragScrollListWidget::setSliderPosition(int previous, int current, QScrollBar* bar)
+{
+    Touch::dragScrollBar(previous, current, bar);
+}
+
+bool DragScrollListWidget::event(QEvent* event)
+{
+    if (Touch::losesFinger(*this, *event)) {
+        m_gesture->end();
+    }
+    const Touch::ScrollPause pause(this, *event);
+    return QListWidget::event(event);
+}
+
+bool DragScrollListWidget::eventFilter(QObject* object, QEvent* event)
+{
+    const Touch::ScrollPause pause(this, *event);
+    return QListWidget::eventFilter(object, event);
+}
+
+void DragScrollListWidget::mousePressEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mousePressEvent(event);
+}
+
+void DragScrollListWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void DragScrollListWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_gesture->isInProgress()) {
+        return;
+    }
+    const Qt::Orientations counted =
+        m_horizontalMovementEnabled ? Qt::Vertical | Qt::Horizontal : Qt::Vertical;
+    const QPoint current = event->globalPosition().toPoint();
+    const QPoint previous = m_gesture->moveTo(current, counted);
+    setSliderPosition(previous.y(), current.y(), verticalScrollBar());
+    if (m_horizontalMovementEnabled) {
+        setSliderPosition(previous.x(), current.x(), horizontalScrollBar());
+    }
+}
+
+void DragScrollListWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_gesture->end()) {
+        QListView::mouseReleaseEvent(event);
+        return;
+    }
+    const QScopedValueRollback swallowing(m_swallowingRelease, true);
+    const QSignalBlocker blocker(this);
+    QListView::mouseReleaseEvent(event);
+}
+
+void DragScrollListWidget::focusOutEvent(QFocusEvent* event)
+{
+    QListWidget::focusOutEvent(event);
+    Q_EMIT focusLost();
+}
+
+bool DragScrollListWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    // The release of a drag must not toggle a check box or start an editor: with the signals
+    // blocked, nobody would even hear of it.
+    if (m_swallowingRelease) {
+        return false;
+    }
+    return Touch::holdsFocus(indexWidget(index)) || QListWidget::edit(index, trigger, event);
+}
+
+#include "moc_dragscrolllistwidget.cpp"

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "dragscrolltableview.h"
+
+#include "touch/draggesture.h"
+
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+DragScrollTableView::DragScrollTableView(QWidget* parent)
+    : QTableView(parent)
+    , m_gesture(std::make_unique<Touch::DragGesture>())
+{
+    // The list view's name: one rule of a style sheet styles both.
+    setObjectName(QStringLiteral("DragScrollListView"));
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+DragScrollTableView::~DragScrollTableView() = default;
+
+void DragScrollTableView::setHorizontalMovementEnabled(bool enabled)
+{
+    m_horizontalMovementEnabled = enabled;
+}
+
+void DragScrollTableView::setSliderPosition(int previous, int current, QScrollBar* bar)
+{
+    Touch::dragScrollBar(previous, current, bar);
+}
+
+bool DragScrollTableView::event(QEvent* event)
+{
+    if (Touch::losesFinger(*this, *event)) {
+        m_gesture->end();
+    }
+    const Touch::ScrollPause pause(this, *event);
+    return QTableView::event(event);
+}
+
+bool DragScrollTableView::eventFilter(QObject* object, QEvent* event)
+{
+    const Touch::ScrollPause pause(this, *event);
+    return QTableView::eventFilter(object, event);
+}
+
+void DragScrollTableView::mousePressEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mousePressEvent(event);
+}
+
+void DragScrollTableView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void DragScrollTableView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_gesture->isInProgress()) {
+        return;
+    }
+    const Qt::Orientations counted =
+        m_horizontalMovementEnabled ? Qt::Vertical | Qt::Horizontal : Qt::Vertical;
+    const QPoint current = event->globalPosition().toPoint();
+    const QPoint previous = m_gesture->moveTo(current, counted);
+    setSliderPosition(previous.y(), current.y(), verticalScrollBar());
+    if (m_horizontalMovementEnabled) {
+        setSliderPosition(previous.x(), current.x(), horizontalScrollBar());
+    }
+}
+
+void DragScrollTableView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_gesture->end()) {
+        QAbstractItemView::mouseReleaseEvent(event);
+        return;
+    }
+    const QScopedValueRollback swallowing(m_swallowingRelease, true);
+    const QSignalBlocker blocker(this);
+    QAbstractItemView::mouseReleaseEvent(event);
+}
+
+void DragScrollTableView::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    Q_EMIT focusLost();
+}
+
+bool DragScrollTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    // The release of a drag must not toggle a check box or start an editor: with the signals
+    // blocked, nobody would even hear of it.
+    if (m_swallowingRelease) {
+        return false;
+    }
+    return Touch::holdsFocus(indexWidget(index)) || QTableView::edit(index, trigger, event);
+}
+
+#include "moc_dragscrolltableview.cpp"

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "dragscrolltreeview.h"
+
+#include "touch/draggesture.h"
+
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+DragScrollTreeView::DragScrollTreeView(QWidget* parent)
+    : QTreeView(parent)
+    , m_gesture(std::make_unique<Touch::DragGesture>())
+{
+    setObjectName(QStringLiteral("DragScrollTreeView"));
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+DragScrollTreeView::~DragScrollTreeView() = default;
+
+void DragScrollTreeView::setHorizontalMovementEnabled(bool enabled)
+{
+    m_horizontalMovementEnabled = enabled;
+}
+
+void DragScrollTreeView::setSliderPosition(int previous, int current, QScrollBar* bar)
+{
+    Touch::dragScrollBar(previous, current, bar);
+}
+
+bool DragScrollTreeView::event(QEvent* event)
+{
+    if (Touch::losesFinger(*this, *event)) {
+        m_gesture->end();
+    }
+    const Touch::ScrollPause pause(this, *event);
+    return QTreeView::event(event);
+}
+
+bool DragScrollTreeView::eventFilter(QObject* object, QEvent* event)
+{
+    const Touch::ScrollPause pause(this, *event);
+    return QTreeView::eventFilter(object, event);
+}
+
+void DragScrollTreeView::mousePressEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    // Past the tree view's own handler, which would unfold a branch whose mark is pressed: nobody
+    // knows yet whether this becomes a drag. The same holds for a double click.
+    QAbstractItemView::mousePressEvent(event);
+}
+
+void DragScrollTreeView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    m_gesture->begin(event->globalPosition().toPoint());
+    QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void DragScrollTreeView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_gesture->isInProgress()) {
+        return;
+    }
+    const Qt::Orientations counted =
+        m_horizontalMovementEnabled ? Qt::Vertical | Qt::Horizontal : Qt::Vertical;
+    const QPoint current = event->globalPosition().toPoint();
+    const QPoint previous = m_gesture->moveTo(current, counted);
+    setSliderPosition(previous.y(), current.y(), verticalScrollBar());
+    if (m_horizontalMovementEnabled) {
+        setSliderPosition(previous.x(), current.x(), horizontalScrollBar());
+    }
+}
+
+void DragScrollTreeView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_gesture->end()) {
+        QTreeView::mouseReleaseEvent(event);
+        return;
+    }
+    const QScopedValueRollback swallowing(m_swallowingRelease, true);
+    const QSignalBlocker blocker(this);
+    // Some styles unfold a branch when its mark is released.
+    const bool expandable = itemsExpandable();
+    setItemsExpandable(false);
+    QTreeView::mouseReleaseEvent(event);
+    setItemsExpandable(expandable);
+}
+
+void DragScrollTreeView::focusOutEvent(QFocusEvent* event)
+{
+    QTreeView::focusOutEvent(event);
+    Q_EMIT focusLost();
+}
+
+bool DragScrollTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    // The release of a drag must not toggle a check box or start an editor: with the signals
+    // blocked, nobody would even hear of it.
+    if (m_swallowingRelease) {
+        return false;
+    }
+    return Touch::holdsFocus(indexWidget(index)) || QTreeView::edit(index, trigger, event);
+}
+
+#include "moc_dragscrolltreeview.cpp"

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QTreeView>
+
+#include <memory>
+
+class QScrollBar;
+
+namespace Touch {
+class DragGesture;
+}
+
+/*!
+ * \brief A tree view that is scrolled by dragging a finger over it.
+ *
+ * Use it wherever an application would use QTreeView on a touch screen. The content follows the
+ * finger from its first movement on; nothing coasts after the release. The item under the finger is
+ * selected as soon as it is pressed. A finger that has been more than 10 pixels above or below its
+ * press drags: its release emits no clicked() and no activated(), starts no editor and toggles no
+ * check box.
+ *
+ * Presses do not fold: neither the branch marks nor a double click expand or collapse anything, so
+ * that a drag may start anywhere. Show what is needed yourself:
+ *
+ * \code
+ * auto* tree = new DragScrollTreeView(this);
+ * tree->setModel(model);
+ * connect(tree, &QTreeView::clicked, tree, &QTreeView::expand);
+ * \endcode
+ *
+ * There is no selecting, dragging or dropping of items by moving the finger, and no scrolling by
+ * itself at the edges. The object name is "DragScrollTreeView".
+ */
+class UTILITYWIDGETS_EXPORT DragScrollTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit DragScrollTreeView(QWidget* parent = nullptr);
+    ~DragScrollTreeView() override;
+
+    /// Whether a horizontal drag scrolls too, and then counts as a drag like a vertical one. Off at
+    /// first: a finger that moves sideways taps.
+    void setHorizontalMovementEnabled(bool enabled);
+
+    /// Moves `bar` by `previous` - `current`, coordinates of a finger in pixels, and no further
+    /// than the end of its range. `bar` must not be null; it may be any scroll bar.
+    void setSliderPosition(int previous, int current, QScrollBar* bar);
+
+    using QTreeView::edit;
+
+Q_SIGNALS:
+    /// The view lost the focus, for whatever reason. A popup that holds the view closes on it.
+    void focusLost();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+
+private:
+    std::unique_ptr<Touch::DragGesture> m_gesture;
+    bool m_horizontalMovementEnabled = false;
+    bool m_swallowingRelease = false;
+};
