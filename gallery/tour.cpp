@@ -81,18 +81,22 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     QElapsedTimer waited;
     waited.start();
     QTimer poll;
+    bool over = false;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* dialog = openedDialog(window);
-        if (dialog == nullptr && waited.elapsed() < DialogPatience) {
+        if (dialog == nullptr && (over || waited.elapsed() < DialogPatience)) {
             return;
         }
-        poll.stop();
-        if (dialog != nullptr) {
+        if (dialog == nullptr) {
+            std::fprintf(stderr, "no dialog for %s\n", qUtf8Printable(path));
+        } else if (!over) {
             QApplication::processEvents();
             saved = save(picture(window), path);
+        }
+        over = true;
+        // One that opens another when it is answered must not make the tour wait for a person.
+        if (dialog != nullptr) {
             dialog->close();
-        } else {
-            std::fprintf(stderr, "no dialog for %s\n", qUtf8Printable(path));
         }
     });
     poll.start(0);

@@ -3,6 +3,7 @@
 
 #include "pages/families.h"
 
+#include "oxinputdialog.h"
 #include "oxmessagebox.h"
 #include "stage.h"
 
@@ -122,6 +123,60 @@ QList<DialogState> messageBoxes()
     };
 }
 
+/// Says what an input dialog returned, unless it was cancelled.
+void showResult(bool cancelled, const QString& value)
+{
+    if (!cancelled) {
+        OxMessageBox::information(window(), QStringLiteral("RESULT"), value);
+    }
+}
+
+void askForText()
+{
+    bool cancelled = false;
+    const QString name = OxInputDialog::getText(window(), QStringLiteral("Rename"),
+                                                QStringLiteral("Name of the layer"),
+                                                QStringLiteral("Layer 1"), &cancelled);
+    showResult(cancelled, name);
+}
+
+void askForInt()
+{
+    //! [OxInputDialog]
+    bool cancelled = false;
+    const int copies = OxInputDialog::getInt(window(), QStringLiteral("Print"),
+                                             QStringLiteral("Copies"), 1, 1, 99, &cancelled);
+    showResult(cancelled, QString::number(copies));
+    //! [OxInputDialog]
+}
+
+void askForDouble()
+{
+    bool cancelled = false;
+    const double width = OxInputDialog::getDouble(window(), QStringLiteral("Size"),
+                                                  QStringLiteral("Width in millimetres"), 12.5, 0.1,
+                                                  500, &cancelled);
+    showResult(cancelled, QString::number(width));
+}
+
+void askWithLongTexts()
+{
+    bool cancelled = false;
+    const QString name =
+        OxInputDialog::getText(window(), longText(), longText(), longText(), &cancelled);
+    showResult(cancelled, name);
+}
+
+QList<DialogState> inputDialogs()
+{
+    return {
+        { QStringLiteral("text"), QStringLiteral("Text"), askForText },
+        { QStringLiteral("int"), QStringLiteral("Whole number"), askForInt },
+        { QStringLiteral("double"), QStringLiteral("Decimal number"), askForDouble },
+        { QStringLiteral("long"), QStringLiteral("Long text"), askWithLongTexts },
+    };
+}
+
 } // namespace
 
 Family dialogsFamily()
@@ -135,6 +190,12 @@ Family dialogsFamily()
                 QStringLiteral("Tells the person something or asks for a decision."),
                 showOxMessageBox,
                 messageBoxes(),
+            },
+            {
+                QStringLiteral("OxInputDialog"),
+                QStringLiteral("Asks for one text, whole number or decimal number."),
+                {},
+                inputDialogs(),
             },
         },
     };

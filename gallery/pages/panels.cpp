@@ -5,6 +5,7 @@
 
 #include "linelabel.h"
 #include "lockwidget.h"
+#include "oxcollapsiblewidgetcontainer.h"
 #include "oxlineedit.h"
 #include "stage.h"
 #include "toolbox.h"
@@ -70,6 +71,23 @@ void showToolBox(Stage& stage)
     stage.add(QStringLiteral("Drag a panel"), box);
 }
 
+void showOxCollapsibleWidgetContainer(Stage& stage)
+{
+    //! [OxCollapsibleWidgetContainer]
+    auto* section = new OxCollapsibleWidgetContainer(createPanel(QStringLiteral("Position"), 2),
+                                                     QStringLiteral("Placement"));
+    //! [OxCollapsibleWidgetContainer]
+    stage.add(QStringLiteral("New: open, button unchecked"), section);
+
+    auto* folded = new OxCollapsibleWidgetContainer(nullptr, QStringLiteral("Placement"));
+    folded->setContainedWidget(createPanel(QStringLiteral("Position"), 2));
+    stage.add(QStringLiteral("Folded"), folded);
+
+    auto* disabled = new OxCollapsibleWidgetContainer(nullptr, longText());
+    disabled->setEnabled(false);
+    stage.add(QStringLiteral("Disabled, long text"), disabled);
+}
+
 } // namespace
 
 Family panelsFamily()
@@ -88,6 +106,12 @@ Family panelsFamily()
                 QStringLiteral("ToolBox"),
                 QStringLiteral("A column of panels that scrolls when a finger drags over it."),
                 showToolBox,
+                {},
+            },
+            {
+                QStringLiteral("OxCollapsibleWidgetContainer"),
+                QStringLiteral("A section of a settings panel that folds away under its title."),
+                showOxCollapsibleWidgetContainer,
                 {},
             },
         },
