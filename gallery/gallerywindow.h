@@ -11,7 +11,7 @@ namespace Gallery {
 
 class PageView;
 
-/// The gallery's window: the widgets by family on the left, the page of the chosen one on the right.
+/// The gallery's window: on the left the widgets by family, on the right the chosen one's page.
 class GalleryWindow : public QWidget
 {
     Q_OBJECT

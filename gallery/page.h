@@ -42,6 +42,7 @@ struct Page
     QString source = {};
 };
 
+/// The pages of related classes, under one heading of the list.
 struct Family
 {
     QString name;
@@ -49,6 +50,7 @@ struct Family
     QString source;
     QList<Page> pages;
 
+    /// The code that the page shows; empty if its source has no such marks.
     QString snippetOf(const Page& page) const;
 };
 

@@ -27,6 +27,7 @@ public:
     /// Logs the signals of `object` under `name` until the object dies or the log is reset.
     void watch(const QString& name, QObject* object);
 
+    /// Adds `line`, or counts it if it is the same as the last one.
     void addLine(const QString& line, bool strong);
 
     /// Forgets all watched objects and clears the text.

@@ -30,6 +30,7 @@ class UTILITYWIDGETS_EXPORT ClickableComboBox : public OxComboBox
 public:
     explicit ClickableComboBox(QWidget* parent = nullptr);
 
+    /// Opens the list. A tap on the text calls this, so that an override sees it as well.
     void showPopup() override;
     /// Hides the list, unless this is the first request since a tap on the text.
     void hidePopup() override;

@@ -25,6 +25,8 @@ class UTILITYWIDGETS_EXPORT ClickableLabel : public QLabel
 
 public:
     explicit ClickableLabel(QWidget* parent = nullptr, Qt::WindowFlags f = {});
+    /// `text` is plain or rich, as in any QLabel. One whose links can be tapped reports those taps
+    /// too.
     explicit ClickableLabel(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags f = {});
 
 Q_SIGNALS:

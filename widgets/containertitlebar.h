@@ -26,8 +26,11 @@ class UTILITYWIDGETS_EXPORT ContainerTitleBar : public QWidget
     Q_OBJECT
 
 public:
+    /// The bar's minimum width grows with `title`, which is never cut off: keep it short.
     explicit ContainerTitleBar(QWidget* parent = nullptr, const QString& title = QString());
 
+    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
+    /// escape names that come from outside with QString::toHtmlEscaped().
     void setTitle(const QString& title);
 
     /// Makes the bar one that cannot be closed. There is no way back.

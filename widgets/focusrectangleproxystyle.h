@@ -35,6 +35,7 @@ class UTILITYWIDGETS_EXPORT FocusRectangleProxyStyle : public QProxyStyle
 public:
     using QProxyStyle::QProxyStyle;
 
+    /// Draws nothing for PE_FrameFocusRect and leaves every other element to the base style.
     void drawPrimitive(QStyle::PrimitiveElement element, const QStyleOption* option,
                        QPainter* painter, const QWidget* widget = nullptr) const override;
 };

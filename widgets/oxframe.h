@@ -28,8 +28,8 @@ public:
     explicit OxFrame(QWidget* parent = nullptr, Qt::WindowFlags f = {});
 
 Q_SIGNALS:
-    /// The frame itself lost the focus, for whatever reason. It says nothing when a widget inside it
-    /// loses the focus.
+    /// The frame itself lost the focus, for whatever reason. It says nothing when a widget inside
+    /// it loses the focus.
     void focusLost();
 
 protected:

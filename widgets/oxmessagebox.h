@@ -75,21 +75,25 @@ public:
 
     /// \name Boxes that run until they are answered
     /// They return the standard button that was tapped, or QMessageBox::NoButton for Escape and the
-    /// close button. A `defaultButton` that is not among `buttons` is ignored. `parent` must outlive
-    /// the call.
+    /// close button. A `defaultButton` that is not among `buttons` is ignored. `parent` must
+    /// outlive the call.
     /// @{
+    /// Something has happened that the person should know of.
     static QMessageBox::StandardButton
     information(QWidget* parent, const QString& title, const QString& text,
                 QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                 QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// Something went wrong, and work can go on. The house's title for it is "ERROR".
     static QMessageBox::StandardButton
     warning(QWidget* parent, const QString& title, const QString& text,
             QMessageBox::StandardButtons buttons = QMessageBox::Ok,
             QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// Something went wrong, and work cannot go on as before. Looks as warning() does.
     static QMessageBox::StandardButton
     critical(QWidget* parent, const QString& title, const QString& text,
              QMessageBox::StandardButtons buttons = QMessageBox::Ok,
              QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+    /// The person decides. Make the answer that loses nothing the `defaultButton`.
     static QMessageBox::StandardButton
     question(QWidget* parent, const QString& title, const QString& text,
              QMessageBox::StandardButtons buttons = QMessageBox::Ok,
@@ -111,6 +115,7 @@ public:
     /// @}
 
     /// \name From the message box's vocabulary to the button box's
+    /// The numbers stay the same, so that combinations and roles of either may be compared.
     /// @{
     static QDialogButtonBox::ButtonRole convertButtonRole(QMessageBox::ButtonRole role);
     static QDialogButtonBox::StandardButton

@@ -24,6 +24,7 @@ class UTILITYWIDGETS_EXPORT OxPlainTextEdit : public QPlainTextEdit
 {
 public:
     explicit OxPlainTextEdit(QWidget* parent = nullptr);
+    /// `text` is shown as it stands, HTML included.
     explicit OxPlainTextEdit(const QString& text, QWidget* parent = nullptr);
 
 protected:

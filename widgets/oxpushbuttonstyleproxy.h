@@ -10,10 +10,10 @@
 /*!
  * \brief A style that breaks the text of a push button into several lines where it is too long.
  *
- * Use it on buttons of fixed width whose translated texts may not fit; it breaks between words only.
- * A size hint still asks for the whole text in one line, so the button needs a width and a height
- * from its layout or the application. It works with a style sheet on the button, whichever of the
- * two is set first.
+ * Use it on buttons of fixed width whose translated texts may not fit; it breaks between words
+ * only. A size hint still asks for the whole text in one line, so the button needs a width and a
+ * height from its layout or the application. It works with a style sheet on the button, whichever
+ * of the two is set first.
  *
  * \code
  * auto* style = new OxPushButtonStyleProxy(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -34,6 +34,7 @@ public:
     /// starts with.
     explicit OxPushButtonStyleProxy(QStyle* style = nullptr);
 
+    /// Adds Qt::TextWordWrap to `flags`, for whatever widget asks: it is meant for buttons only.
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
                       bool enabled, const QString& text,
                       QPalette::ColorRole textRole = QPalette::NoRole) const override;

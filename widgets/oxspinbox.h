@@ -8,7 +8,8 @@
 #include <QSpinBox>
 
 /*!
- * \brief A whole-number field for a screen without a keyboard: it calls for one and says when it is left.
+ * \brief A whole-number field for a screen without a keyboard: it calls for one and says when it is
+ * left.
  *
  * When it gains the focus it nudges the device's input system with a posted press of the Control
  * key, so that an on-screen keyboard can appear.

@@ -34,6 +34,8 @@ public:
 
     /// Replaces the icon; a path that cannot be read leaves its place empty.
     void setIconPath(const QString& iconPath);
+    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
+    /// escape names that come from outside with QString::toHtmlEscaped().
     void setTitle(const QString& title);
 
     /// The bar's style sheet, for a dialog that embeds a bar to append to its own sheet.

@@ -35,10 +35,15 @@ public:
         int large = 14;
     };
 
+    /// \name Fonts
+    /// In the size of that name in the table, and plain unless `bold`, whatever size and weight the
+    /// application font itself has. Copies: a later setSizes() does not reach them.
+    /// @{
     static QFont getWidgetFont(bool bold = false);
     static QFont getWidgetFontLarge(bool bold = false);
     static QFont getWidgetFontSmall(bool bold = false);
     static QFont getWidgetFontTiny(bool bold = false);
+    /// @}
 
     /// The table that the four functions read.
     static Sizes sizes();

@@ -41,8 +41,8 @@ public:
         Fatal = 5,
     };
 
-    /// `logger` is loggerInstance(); null means the same. `file` and `function` must live until write() returns; they are not copied. A level outside
-    /// 0 to 5 counts as the nearest one.
+    /// `logger` is loggerInstance(); null means the same. A `level` outside 0 to 5 counts as the
+    /// nearest one. `file` and `function` are not copied: they must live until write() returns.
     CuteMessageLogger(Logger* logger, int level, const char* file, int line, const char* function);
 
     /// Formats like printf (texts in UTF-8) and writes one line. A line break is not added.

@@ -9,7 +9,7 @@
 #include <QObject>
 #include <QString>
 
-/// Records the key presses that reach a widget, those that the widgets inside it passed on included.
+/// Records the key presses that reach a widget, also those that the widgets inside it passed on.
 class KeyPresses : public QObject
 {
 public:

@@ -15,8 +15,9 @@
  * Runs `run`, which is expected to show a modal dialog and block in exec(), and performs `script`
  * on that dialog as soon as it is shown. Returns what `run` returns.
  *
- * The script usually ends the dialog. One that is still open afterwards is rejected and the test
- * fails; so does a `run` that shows no dialog of that class.
+ * The script usually ends the dialog, or makes it end. One that is still open after ten seconds is
+ * hidden and the test fails; so does a `run` that shows no dialog of that class. A script whose
+ * check fails has its dialog hidden at once.
  */
 template <typename Dialog = QDialog, typename Run>
 auto whileModal(Run run, std::function<void(Dialog*)> script) -> decltype(run())
