@@ -4,28 +4,12 @@
 #include "oxframe.h"
 
 #include "support/fieldform.h"
+#include "support/paintcounter.h"
 #include "support/test.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-
-namespace {
-
-class PaintedFrame : public OxFrame
-{
-public:
-    int paints = 0;
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        ++paints;
-        OxFrame::paintEvent(event);
-    }
-};
-
-} // namespace
 
 class TestOxFrame : public Test
 {
@@ -66,18 +50,19 @@ void TestOxFrame::saysNothingWhenAWidgetInsideItIsLeft()
 
 void TestOxFrame::isRepaintedByItsBaseWhenItIsLeft()
 {
-    auto* frame = new PaintedFrame;
+    auto* frame = new OxFrame;
     frame->setFocusPolicy(Qt::StrongFocus);
     frame->setMinimumSize(20, 20);
     FieldForm form(frame);
+    const PaintCounter paints(frame);
     QVERIFY(QTest::qWaitForWindowExposed(form.window()));
     form.enter();
     QCoreApplication::processEvents();
-    const int before = frame->paints;
+    const int before = paints.count();
 
     form.leave();
 
-    QTRY_VERIFY(frame->paints > before);
+    QTRY_VERIFY(paints.count() > before);
 }
 
 UW_TEST_MAIN(TestOxFrame)

@@ -14,7 +14,7 @@ class TestSharedConstants : public Test
 
 private Q_SLOTS:
     void screenIsThatOfTheDevice();
-    void screenConstantsHaveTheirTypes();
+    void constantsHaveTheirTypes();
     void buttonSizesAreInPixels();
     void pathsAreExact_data();
     void pathsAreExact();
@@ -30,7 +30,7 @@ void TestSharedConstants::screenIsThatOfTheDevice()
     QCOMPARE(ScreenSize, QSize(1024, 540));
 }
 
-void TestSharedConstants::screenConstantsHaveTheirTypes()
+void TestSharedConstants::constantsHaveTheirTypes()
 {
     static_assert(std::is_same_v<decltype(ModelName), const QString>);
     static_assert(std::is_same_v<decltype(ScreenWidth), const int>);
@@ -39,6 +39,11 @@ void TestSharedConstants::screenConstantsHaveTheirTypes()
     static_assert(std::is_same_v<decltype(IconButtonSize), const QSize>);
     static_assert(std::is_same_v<decltype(CloseButtonSize), const QSize>);
     static_assert(std::is_same_v<decltype(DataRootPath), const QString>);
+    static_assert(std::is_same_v<decltype(HomeFolderPath), const QString>);
+    static_assert(std::is_same_v<decltype(ProductDataPath), const QString>);
+    static_assert(std::is_same_v<decltype(HelpPath), const QString>);
+    static_assert(std::is_same_v<decltype(DatabasesPath), const QString>);
+    static_assert(std::is_same_v<decltype(DefaultDataPath), const QString>);
     static_assert(ScreenWidth == 1024 && ScreenHeight == 540, "usable at compile time");
 }
 

@@ -39,6 +39,9 @@ void TestSheets::paletteIsExact_data()
     add("top of a disabled button", LOOK_DISABLED_TOP, "#d3d3d3");
     add("bottom of a disabled button", LOOK_DISABLED_BOTTOM, "#a8a8a8");
     add("scroll bar handle", LOOK_SCROLL_HANDLE, "#464646");
+    add("button under a finger", LOOK_TOUCH_TINT, "#ff5800");
+    add("ticks of a slider", LOOK_SLIDER_TICK, "#a5a294");
+    add("tool box, not quite the accent", LOOK_TOOL_ORANGE, "#f37800");
 }
 
 void TestSheets::paletteIsExact()
