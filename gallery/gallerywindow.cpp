@@ -66,14 +66,14 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     resize(ScreenSize);
 
     m_list->setObjectName(QStringLiteral("GalleryList"));
-    m_list->setAccessibleName(tr("Widgets by family"));
+    m_list->setAccessibleName(QStringLiteral("Widgets by family"));
     m_list->setFixedWidth(ListWidth);
     m_list->setFont(ApplicationFont::getWidgetFont(false));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     fillList();
 
-    auto* bar = new ContainerTitleBar(this, tr("UtilityWidgets Gallery"));
+    auto* bar = new ContainerTitleBar(this, QStringLiteral("UtilityWidgets Gallery"));
     auto* body = new QHBoxLayout;
     body->setSpacing(0);
     body->addWidget(m_list);

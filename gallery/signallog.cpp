@@ -121,12 +121,12 @@ SignalLog::SignalLog(QWidget* parent)
     : QPlainTextEdit(parent)
 {
     setObjectName(QStringLiteral("GallerySignalLog"));
-    setAccessibleName(tr("Signal log"));
+    setAccessibleName(QStringLiteral("Signal log"));
     setReadOnly(true);
     setFocusPolicy(Qt::NoFocus);
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setMaximumBlockCount(MaximumLines);
-    setPlaceholderText(tr("Touch an instance: its signals appear here."));
+    setPlaceholderText(QStringLiteral("Touch an instance: its signals appear here."));
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSize(ApplicationFont::sizes().tiny);
     setFont(font);
