@@ -475,7 +475,7 @@ void TestQCopChannel::anyThreadMaySend()
             }
         });
     }
-    QTRY_COMPARE_WITH_TIMEOUT(recorder.texts.size(), Threads * Count, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(int(recorder.texts.size()), Threads * Count, 60000);
     for (std::thread& thread : threads) {
         thread.join();
     }
@@ -1270,8 +1270,6 @@ void TestQCopChannel::aFolderThatWasReplacedIsNoticed()
     QVERIFY(QCopChannel::send(Name, QStringLiteral("after")));
     QVERIFY(after->waitForLine(got(QStringLiteral("after"), {})));
 }
-
-Q_DECLARE_METATYPE(std::optional<QString>)
 
 UW_TEST_MAIN_WITH(QCoreApplication, TestQCopChannel)
 

@@ -7,10 +7,12 @@
 
 #include <QWidget>
 
+// NOLINTBEGIN(modernize-pass-by-value): the signature is part of the interface
 OxSingleInstanceApplication::OxSingleInstanceApplication(int& argc, char** argv,
                                                          const QString& channelName)
     : QApplication(argc, argv)
     , m_channelName(channelName)
+// NOLINTEND(modernize-pass-by-value)
 {
     setObjectName(QStringLiteral("OxSingleInstanceApplication"));
 

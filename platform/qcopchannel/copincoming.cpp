@@ -20,7 +20,7 @@ namespace {
 
 // Far more than programs that talk to each other; few enough for any limit on open files.
 constexpr size_t MaximumConnections = 256;
-constexpr qsizetype ChunkSize = 64 * 1024;
+constexpr qsizetype ChunkSize = qsizetype(64) * 1024;
 // What the poll descriptor calls the listening socket; connections count from 1.
 constexpr quint64 ListeningSocket = 0;
 

@@ -14,7 +14,7 @@
 class QCopChannel::Private
 {
 public:
-    Private(QCopChannel* object, const QString& channelName);
+    Private(QCopChannel* object, QString channelName);
     ~Private();
 
     Q_DISABLE_COPY_MOVE(Private)
@@ -31,9 +31,9 @@ public:
     std::unique_ptr<QSocketNotifier> notifier; // a child of the object, to change threads with it
 };
 
-QCopChannel::Private::Private(QCopChannel* object, const QString& channelName)
+QCopChannel::Private::Private(QCopChannel* object, QString channelName)
     : q(object)
-    , channel(channelName)
+    , channel(std::move(channelName))
 {
     connect(
         &inbox, &Cop::Inbox::filled, q,
