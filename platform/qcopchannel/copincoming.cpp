@@ -148,7 +148,7 @@ void Incoming::dropLongestIdle(std::deque<Message>& messages)
 /// The number of bytes, or -1 if the connection is at its end.
 qsizetype Incoming::receive(Connection& connection, std::deque<Message>& messages)
 {
-    std::array<char, ChunkSize> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::array<char, ChunkSize> chunk; // not cleared: recv() fills as much as is read
     connection.lastRead = ++m_reads;
     ssize_t size = 0;
     do {
