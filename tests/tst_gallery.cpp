@@ -20,6 +20,8 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -35,6 +37,8 @@ private Q_SLOTS:
     void pageNamesAreUnique();
     void theWindowShowsThePageThatIsTappedInTheList();
     void anUnknownPageChangesNothing();
+    void everyPageFitsTheWidthOfTheWindow_data();
+    void everyPageFitsTheWidthOfTheWindow();
     void theTourWritesOnePicturePerPageAndDialog();
     void theTourShowsTranslucentWindowsAsAPersonSeesThem();
     void theTourReportsAFolderItCannotMake();
@@ -143,6 +147,28 @@ void TestGallery::anUnknownPageChangesNothing()
     window.showPage(QStringLiteral("ContainerTitleBar"));
     window.showPage(QStringLiteral("NoSuchPage"));
     QCOMPARE(list->currentItem()->text(), QStringLiteral("ContainerTitleBar"));
+}
+
+void TestGallery::everyPageFitsTheWidthOfTheWindow_data()
+{
+    QTest::addColumn<QString>("page");
+
+    const QList<Gallery::Page> pages = allPages();
+    for (const Gallery::Page& page : pages) {
+        QTest::newRow(qPrintable(page.id)) << page.id;
+    }
+}
+
+void TestGallery::everyPageFitsTheWidthOfTheWindow()
+{
+    QFETCH(const QString, page);
+    Gallery::GalleryWindow window;
+    window.showPage(page);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const auto* instances = window.findChild<QScrollArea*>(QStringLiteral("GalleryInstances"));
+    QCOMPARE(instances->horizontalScrollBar()->maximum(), 0);
 }
 
 void TestGallery::theTourWritesOnePicturePerPageAndDialog()

@@ -64,6 +64,13 @@ void showPalette(Stage& stage)
     }
 }
 
+/// As long as a title may be here: a bar grows with its title and would push its close button, and
+/// those of the bars above it, out of the page.
+QString longTitle()
+{
+    return QStringLiteral("Verhältnismäßig langer Titel");
+}
+
 void showOxTitleBar(Stage& stage)
 {
     //! [OxTitleBar]
@@ -74,7 +81,7 @@ void showOxTitleBar(Stage& stage)
     stage.addWide(QStringLiteral("With an icon"), bar);
     stage.addWide(QStringLiteral("Without an icon"),
                   new OxTitleBar(nullptr, QString(), QStringLiteral("Measure")));
-    stage.addWide(QStringLiteral("Long text"), new OxTitleBar(nullptr, QString(), longText()));
+    stage.addWide(QStringLiteral("Long text"), new OxTitleBar(nullptr, QString(), longTitle()));
 }
 
 void showContainerTitleBar(Stage& stage)
@@ -87,7 +94,7 @@ void showContainerTitleBar(Stage& stage)
     auto* closed = new ContainerTitleBar(nullptr, QStringLiteral("Layers"));
     closed->hideCloseButton();
     stage.addWide(QStringLiteral("Without"), closed);
-    stage.addWide(QStringLiteral("Long text"), new ContainerTitleBar(nullptr, longText()));
+    stage.addWide(QStringLiteral("Long text"), new ContainerTitleBar(nullptr, longTitle()));
 }
 
 QWidget* createPicture(const Look::Image& image)

@@ -41,7 +41,7 @@ void showToolBoxContainer(Stage& stage)
     tools->addPropertiesWidget(new LockWidget(false, tools));
     //! [ToolBoxContainer]
     tools->setFixedHeight(ToolBoxSize.height());
-    stage.add(QStringLiteral("More than fits: drag, or use the arrows"), tools);
+    stage.add(QStringLiteral("Too high: drag, or tap an arrow"), tools);
 
     auto* fits = new ToolBoxContainer;
     fits->initialize(ToolBoxSize, QPoint());

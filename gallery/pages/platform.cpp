@@ -62,9 +62,11 @@ void showCuteMessageLogger(Stage& stage)
 
 void showOxSingleInstanceApplication(Stage& stage)
 {
-    stage.addWide(QStringLiteral("The start of a program"),
-                  new QLabel(QStringLiteral("A second start brings the running program forward and "
-                                            "ends. The gallery is such a program.")));
+    auto* explanation = new QLabel(QStringLiteral("A second start brings the running program "
+                                                  "forward and ends. The gallery is such a "
+                                                  "program."));
+    explanation->setWordWrap(true);
+    stage.addWide(QStringLiteral("The start of a program"), explanation);
     stage.addAction(QStringLiteral("Start it again"), [stage]() mutable {
         // What a second start does in its constructor, seen from the first.
         QCopChannel::send(QString::fromLatin1(ChannelName), QStringLiteral("raise"));
