@@ -8,6 +8,9 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QListView>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include <limits>
@@ -30,6 +33,7 @@ private Q_SLOTS:
     void startsAfreshAfterItsEnd();
     void scrollsTheBarAgainstTheFingerAndWithinItsRange_data();
     void scrollsTheBarAgainstTheFingerAndWithinItsRange();
+    void stopsScrollingWhenItsListenerDeletesTheArea();
     void pausesScrollingOnlyWhileAPressMovesTheFocus();
     void seesTheFocusInsideAnIndexWidget();
     void losesTheFingerOfAWidgetThatCanNoLongerBeReached();
@@ -181,6 +185,23 @@ void TestDragGesture::losesTheFingerOfAWidgetThatCanNoLongerBeReached()
     QVERIFY(!Touch::losesFinger(widget, QEvent(QEvent::EnabledChange)));
     widget.setEnabled(false);
     QVERIFY(Touch::losesFinger(widget, QEvent(QEvent::EnabledChange)));
+}
+
+void TestDragGesture::stopsScrollingWhenItsListenerDeletesTheArea()
+{
+    auto* area = new QScrollArea;
+    area->resize(100, 100);
+    area->verticalScrollBar()->setRange(0, 50);
+    area->horizontalScrollBar()->setRange(0, 50);
+    const QPointer<QScrollArea> alive(area);
+    connect(area->verticalScrollBar(), &QScrollBar::valueChanged, this, [area] { delete area; });
+
+    DragGesture gesture;
+    gesture.begin(QPoint(50, 50));
+    const QMouseEvent move(QEvent::MouseMove, QPointF(), QPointF(40, 40), Qt::NoButton,
+                           Qt::LeftButton, Qt::NoModifier);
+    Touch::dragScrollArea(gesture, move, Qt::Vertical | Qt::Horizontal, *area);
+    QVERIFY(alive.isNull());
 }
 
 void TestDragGesture::pausesScrollingOnlyWhileAPressMovesTheFocus()

@@ -4,6 +4,7 @@
 #include "toolbox.h"
 
 #include "support/finger.h"
+#include "support/modaldialog.h"
 #include "support/test.h"
 
 #include <QHBoxLayout>
@@ -61,6 +62,9 @@ private Q_SLOTS:
     void aMoveWithoutAPressScrollsNothing();
     void aSecondPressDoesNotMoveTheDragsOrigin();
     void aDragThatStartsOnAPanelScrolls();
+    void aDragEndsWhenTheBoxIsHidden();
+    void aDragEndsWhenTheBoxIsDisabled();
+    void aDragEndsWhenADialogComesUp();
 };
 
 void TestToolBox::isNamedAfterItsClass()
@@ -326,6 +330,68 @@ void TestToolBox::aDragThatStartsOnAPanelScrolls()
     finger.moveBy(QPoint(0, 25));
     QCOMPARE(box.position(), before - 25);
     finger.release();
+}
+
+// A finger that the box never sees lifted must not make its next drag jump.
+
+void TestToolBox::aDragEndsWhenTheBoxIsHidden()
+{
+    QWidget window;
+    LongToolBox box;
+    box.setParent(&window); // which gets the release
+    box.show();
+    window.resize(BoxSize);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Finger finger;
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -50));
+    box.hide();
+    finger.release();
+    box.show();
+
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -3));
+    finger.release();
+    QCOMPARE(box.position(), 53);
+}
+
+void TestToolBox::aDragEndsWhenTheBoxIsDisabled()
+{
+    LongToolBox box;
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    Finger finger;
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -50));
+    box.setEnabled(false);
+    finger.release();
+    box.setEnabled(true);
+
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -3));
+    finger.release();
+    QCOMPARE(box.position(), 53);
+}
+
+void TestToolBox::aDragEndsWhenADialogComesUp()
+{
+    LongToolBox box;
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    Finger finger;
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -50));
+    QDialog warning(&box);
+    whileModal<QDialog>([&] { warning.exec(); },
+                        [](QDialog* dialog) {
+                            Finger onTheDialog;
+                            onTheDialog.tap(dialog);
+                            dialog->accept();
+                        });
+
+    finger.press(box.viewport());
+    finger.moveBy(QPoint(0, -3));
+    finger.release();
+    QCOMPARE(box.position(), 53);
 }
 
 UW_TEST_MAIN(TestToolBox)

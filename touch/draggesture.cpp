@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFocusEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QWidget>
 
@@ -49,6 +50,24 @@ void dragScrollBar(int previous, int current, QScrollBar* bar)
     const qint64 wanted = qint64(bar->sliderPosition()) + previous - current;
     bar->setSliderPosition(
         int(std::clamp<qint64>(wanted, bar->minimum(), std::max(bar->minimum(), bar->maximum()))));
+}
+
+void dragScrollArea(DragGesture& gesture, const QMouseEvent& move, Qt::Orientations scrolled,
+                    const QAbstractScrollArea& area)
+{
+    if (!gesture.isInProgress()) {
+        return;
+    }
+    const QPoint current = move.globalPosition().toPoint();
+    const QPoint previous = gesture.moveTo(current, scrolled);
+    // Whoever hears of the first bar's new position may delete the area.
+    const QPointer<QScrollBar> horizontal(area.horizontalScrollBar());
+    if (scrolled.testFlag(Qt::Vertical)) {
+        dragScrollBar(previous.y(), current.y(), area.verticalScrollBar());
+    }
+    if (scrolled.testFlag(Qt::Horizontal) && horizontal) {
+        dragScrollBar(previous.x(), current.x(), horizontal);
+    }
 }
 
 bool losesFinger(const QWidget& widget, const QEvent& event)

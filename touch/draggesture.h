@@ -7,7 +7,9 @@
 #include <QPointer>
 
 class QAbstractItemView;
+class QAbstractScrollArea;
 class QEvent;
+class QMouseEvent;
 class QScrollBar;
 class QWidget;
 
@@ -55,6 +57,11 @@ private:
 /// Moves `bar` as far as the finger moved from `previous` to `current`, against its direction, so
 /// that the content follows the finger. Stops at the ends of the bar's range.
 void dragScrollBar(int previous, int current, QScrollBar* bar);
+
+/// The finger that `gesture` follows on `area` has moved: scrolls the content by as much in the
+/// `scrolled` directions, which are also those that make a drag of it. Does nothing without a press.
+void dragScrollArea(DragGesture& gesture, const QMouseEvent& move, Qt::Orientations scrolled,
+                    const QAbstractScrollArea& area);
 
 /// Whether after `event`, which is being delivered to `widget`, the release of a finger on it may
 /// never come: it was hidden or disabled, or a modal dialog came up in front of it.

@@ -7,7 +7,6 @@
 
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
 
 DragScrollTreeView::DragScrollTreeView(QWidget* parent)
@@ -62,17 +61,9 @@ void DragScrollTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void DragScrollTreeView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!m_gesture->isInProgress()) {
-        return;
-    }
-    const Qt::Orientations counted =
+    const Qt::Orientations scrolled =
         m_horizontalMovementEnabled ? Qt::Vertical | Qt::Horizontal : Qt::Vertical;
-    const QPoint current = event->globalPosition().toPoint();
-    const QPoint previous = m_gesture->moveTo(current, counted);
-    setSliderPosition(previous.y(), current.y(), verticalScrollBar());
-    if (m_horizontalMovementEnabled) {
-        setSliderPosition(previous.x(), current.x(), horizontalScrollBar());
-    }
+    Touch::dragScrollArea(*m_gesture, *event, scrolled, *this);
 }
 
 void DragScrollTreeView::mouseReleaseEvent(QMouseEvent* event)

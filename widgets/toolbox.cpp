@@ -3,32 +3,24 @@
 
 #include "toolbox.h"
 
+#include "touch/draggesture.h"
+
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <QVBoxLayout>
-
-#include <memory>
-
-namespace {
-
-int globalY(const QMouseEvent* event)
-{
-    return event->globalPosition().toPoint().y();
-}
-
-} // namespace
 
 ToolBox::ToolBox(QWidget* parent)
     : QScrollArea(parent)
+    , m_gesture(std::make_unique<Touch::DragGesture>())
 {
     setObjectName(QStringLiteral("ToolBox"));
 }
 
+ToolBox::~ToolBox() = default;
+
 void ToolBox::initialize(QSize size, QPoint position)
 {
     m_insertionIndex = 0;
-    m_lastY = 0;
-    m_pressed = false;
+    m_gesture->end();
     m_origin = QPoint(position.x() + size.width(), position.y());
     setFixedWidth(size.width());
 
@@ -77,28 +69,29 @@ void ToolBox::setLayoutSpacing(int spacing)
     }
 }
 
+bool ToolBox::event(QEvent* event)
+{
+    if (Touch::losesFinger(*this, *event)) {
+        m_gesture->end();
+    }
+    return QScrollArea::event(event);
+}
+
 void ToolBox::mousePressEvent(QMouseEvent* event)
 {
-    if (!m_pressed) {
-        m_pressed = true;
-        m_lastY = globalY(event);
-    }
+    m_gesture->begin(event->globalPosition().toPoint());
     QScrollArea::mousePressEvent(event);
 }
 
 void ToolBox::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_pressed) {
-        QScrollBar* bar = verticalScrollBar();
-        bar->setSliderPosition(bar->sliderPosition() + m_lastY - globalY(event));
-        m_lastY = globalY(event);
-    }
+    Touch::dragScrollArea(*m_gesture, *event, Qt::Vertical, *this);
     QScrollArea::mouseMoveEvent(event);
 }
 
 void ToolBox::mouseReleaseEvent(QMouseEvent* event)
 {
-    m_pressed = false;
+    m_gesture->end();
     QScrollArea::mouseReleaseEvent(event);
 }
 

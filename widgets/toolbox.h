@@ -9,8 +9,14 @@
 #include <QScrollArea>
 #include <QSize>
 
+#include <memory>
+
 class QLayout;
 class QVBoxLayout;
+
+namespace Touch {
+class DragGesture;
+}
 
 /*!
  * \brief A column of panels that scrolls when a finger drags over it.
@@ -22,6 +28,8 @@ class QVBoxLayout;
  * auto* box = new ToolBox(this);
  * box->initialize(QSize(220, 400), QPoint(0, 0));
  * box->setWidgetResizable(true);
+ * box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // each bar would cover a part of the
+ * box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);   // column, which has a fixed width
  * box->addPropertiesWidget(new LockWidget(false, box));
  * box->insertSpacerItem();
  * \endcode
@@ -37,6 +45,7 @@ class UTILITYWIDGETS_EXPORT ToolBox : public QScrollArea
 
 public:
     explicit ToolBox(QWidget* parent = nullptr);
+    ~ToolBox() override;
 
     /// Builds an empty column that is as wide as `size`, whose height has no meaning. The column
     /// starts out at the right end of `size` placed at `position`. Calling it again deletes the
@@ -55,6 +64,7 @@ public:
     void setLayoutSpacing(int spacing);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -63,8 +73,7 @@ private:
     int nextIndex();
 
     int m_insertionIndex = 0;
-    int m_lastY = 0; // global, in pixels
-    bool m_pressed = false;
+    std::unique_ptr<Touch::DragGesture> m_gesture;
     QPoint m_origin;
     QVBoxLayout* m_columnLayout = nullptr;
     QWidget* m_columnWidget = nullptr;
