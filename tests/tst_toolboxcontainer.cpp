@@ -38,13 +38,15 @@ QScrollBar* barOf(const ToolBoxContainer& container)
 
 QPushButton* above(const ToolBoxContainer& container)
 {
-    const auto buttons = container.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto buttons =
+        container.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
     return buttons.value(0);
 }
 
 QPushButton* below(const ToolBoxContainer& container)
 {
-    const auto buttons = container.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto buttons =
+        container.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
     return buttons.value(1);
 }
 
@@ -80,6 +82,8 @@ private Q_SLOTS:
     void aRangeShorterThanTheJumpLeavesTheOtherButtonAsItWas();
     void aHeldButtonScrollsRepeatedly();
     void growingContentShowsTheBelowButton();
+    void contentThatGrowsByItselfShowsTheBelowButton();
+    void panelsAddedJustBeforeAResizeShowTheBelowButton();
     void resizingAndMovingDecideAnew();
     void aButtonCanBeShownAndHiddenByHand();
     void aWidgetIsBroughtIntoViewWith50PixelsAround();
@@ -411,6 +415,32 @@ void TestToolBoxContainer::growingContentShowsTheBelowButton()
     container->determineButtonVisibility();
     QVERIFY(barOf(*container)->maximum() > 0);
     QVERIFY(below(*container)->isVisible());
+}
+
+void TestToolBoxContainer::contentThatGrowsByItselfShowsTheBelowButton()
+{
+    const auto container = createShown(100);
+    QVERIFY(QTest::qWaitForWindowExposed(container.get()));
+    auto* panel = new QWidget;
+    panel->setFixedHeight(10);
+    container->addPropertiesWidget(panel);
+    container->determineButtonVisibility();
+    QVERIFY(!below(*container)->isVisible());
+    panel->setFixedHeight(1000); // a panel that unfolds
+    QTRY_VERIFY(below(*container)->isVisible());
+    panel->setFixedHeight(10);
+    QTRY_VERIFY(!below(*container)->isVisible());
+}
+
+void TestToolBoxContainer::panelsAddedJustBeforeAResizeShowTheBelowButton()
+{
+    const auto container = createShown(100);
+    QVERIFY(QTest::qWaitForWindowExposed(container.get()));
+    auto* panel = new QWidget;
+    panel->setFixedHeight(1000);
+    container->addPropertiesWidget(panel);
+    container->resize(container->size() + QSize(0, 10));
+    QTRY_VERIFY(below(*container)->isVisible());
 }
 
 void TestToolBoxContainer::resizingAndMovingDecideAnew()

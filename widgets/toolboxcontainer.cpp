@@ -71,6 +71,9 @@ void ToolBoxContainer::initialize(QSize size, QPoint position)
     connect(m_aboveButton, &QPushButton::clicked, this, &ToolBoxContainer::onAboveButtonClicked);
     connect(m_belowButton, &QPushButton::clicked, this, &ToolBoxContainer::onBelowButtonClicked);
     followScrollBar(true);
+    // Panels that have been added are shown, and may unfold, only after the event at hand.
+    connect(m_toolBox->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            &ToolBoxContainer::updateButtons);
 }
 
 void ToolBoxContainer::addPropertiesWidget(QWidget* panel)

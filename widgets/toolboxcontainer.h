@@ -47,14 +47,15 @@ public:
     void setLayoutSpacing(int spacing);
     /// @}
 
-    /// Shows or hides one button until the next scrolling or resizing decides anew.
+    /// Shows or hides one button until scrolling, resizing or growing content decides anew.
     void setAboveButtonVisible(bool visible);
     void setBelowButtonVisible(bool visible);
 
     ToolBox* getToolBox() const;
 
     /*!
-     * Shows the buttons in whose direction there is something to scroll to.
+     * Shows the buttons in whose direction there is something to scroll to. The container does so by
+     * itself when it is scrolled or its size or content changes; call this to have it settled now.
      *
      * Processes pending events first, so that panels added just now count: slots of all kinds run,
      * and one may even delete this container.
