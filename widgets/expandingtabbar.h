@@ -14,6 +14,7 @@
  *
  * \code
  * auto* bar = new ExpandingTabBar(this);
+ * bar->setIconSize(QSize(28, 28)); // tabs high enough for a finger
  * bar->addTab(tr("Pen"));
  * bar->setTabColorRect(bar->addTab(tr("Fill")), QStringLiteral("#fd7800"));
  * \endcode

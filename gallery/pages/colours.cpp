@@ -206,6 +206,7 @@ void showExpandingTabBar(Stage& stage)
 {
     //! [ExpandingTabBar]
     auto* bar = new ExpandingTabBar;
+    bar->setIconSize(QSize(28, 28)); // tabs for a finger
     bar->addTab(QStringLiteral("Pen"));
     bar->addTab(QStringLiteral("Fill"));
     bar->addTab(QStringLiteral("Text"));
@@ -215,12 +216,14 @@ void showExpandingTabBar(Stage& stage)
     stage.addWide(QStringLiteral("Enabled"), bar);
 
     auto* disabled = new ExpandingTabBar;
+    disabled->setIconSize(bar->iconSize());
     disabled->setTabColorRect(disabled->addTab(QStringLiteral("Pen")), QStringLiteral("#1e5fb4"));
     disabled->addTab(QStringLiteral("Fill"));
     disabled->setEnabled(false);
     stage.addWide(QStringLiteral("Disabled"), disabled);
 
     auto* longTexts = new ExpandingTabBar;
+    longTexts->setIconSize(bar->iconSize());
     longTexts->setElideMode(Qt::ElideRight);
     longTexts->setTabColorRect(longTexts->addTab(longText()), QStringLiteral("seagreen"));
     longTexts->addTab(longText());

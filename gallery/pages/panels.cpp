@@ -17,7 +17,7 @@ namespace Gallery {
 
 namespace {
 
-constexpr QSize ToolBoxSize(230, 200);
+constexpr QSize ToolBoxSize(220, 200); // three of them fit
 
 /// A panel as settings have them: a head and some fields.
 QWidget* createPanel(const QString& title, int fields)
@@ -35,7 +35,7 @@ void showToolBoxContainer(Stage& stage)
 {
     //! [ToolBoxContainer]
     auto* tools = new ToolBoxContainer;
-    tools->initialize(QSize(230, 200), QPoint(0, 0));
+    tools->initialize(QSize(220, 200), QPoint(0, 0));
     tools->addPropertiesWidget(createPanel(QStringLiteral("Position"), 2));
     tools->addPropertiesWidget(createPanel(QStringLiteral("Size"), 3));
     tools->addPropertiesWidget(new LockWidget(false, tools));
@@ -62,8 +62,11 @@ void showToolBox(Stage& stage)
 {
     //! [ToolBox]
     auto* box = new ToolBox;
-    box->initialize(QSize(230, 200), QPoint(0, 0));
+    box->initialize(QSize(220, 200), QPoint(0, 0));
     box->setWidgetResizable(true);
+    // The column is as wide as the box: bars would cover a part of it.
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->addPropertiesWidget(createPanel(QStringLiteral("Position"), 2));
     box->addPropertiesWidget(createPanel(QStringLiteral("Size"), 3));
     //! [ToolBox]
@@ -83,7 +86,7 @@ void showOxCollapsibleWidgetContainer(Stage& stage)
     folded->setContainedWidget(createPanel(QStringLiteral("Position"), 2));
     stage.add(QStringLiteral("Folded"), folded);
 
-    auto* disabled = new OxCollapsibleWidgetContainer(nullptr, longText());
+    auto* disabled = new OxCollapsibleWidgetContainer(nullptr, longText().left(20));
     disabled->setEnabled(false);
     stage.add(QStringLiteral("Disabled, long text"), disabled);
 }
