@@ -6,6 +6,7 @@
 #include "look/palette.h"
 #include "look/styledwidgetpainting.h"
 #include "look/titlebarclosebutton.h"
+#include "look/titlelabel.h"
 #include "sharedconstants.h"
 
 #include <QHBoxLayout>
@@ -28,7 +29,7 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
                       .arg(TitlePointSize));
 
     // Children that are born under a sheet are styled once; those that move there, twice.
-    m_titleLabel = new QLabel(title, this);
+    m_titleLabel = new Look::TitleLabel(title, this);
     m_closeButton = Look::createTitleBarCloseButton(this, CloseButtonSize);
 
     auto* layout = new QHBoxLayout;

@@ -26,7 +26,7 @@ class UTILITYWIDGETS_EXPORT ContainerTitleBar : public QWidget
     Q_OBJECT
 
 public:
-    /// The bar's minimum width grows with `title`, which is never cut off: keep it short.
+    /// A `title` that has no room in the bar ends in an ellipsis.
     explicit ContainerTitleBar(QWidget* parent = nullptr, const QString& title = QString());
 
     /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:

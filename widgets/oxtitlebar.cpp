@@ -6,6 +6,7 @@
 #include "look/palette.h"
 #include "look/styledwidgetpainting.h"
 #include "look/titlebarclosebutton.h"
+#include "look/titlelabel.h"
 #include "sharedconstants.h"
 
 #include <QHBoxLayout>
@@ -42,7 +43,7 @@ OxTitleBar::OxTitleBar(QWidget* parent, const QString& iconPath, const QString& 
     m_iconLabel->setFixedSize(29, 28);
     m_iconLabel->setAlignment(Qt::AlignCenter);
     setIconPath(iconPath);
-    m_titleLabel = new QLabel(title, this);
+    m_titleLabel = new Look::TitleLabel(title, this);
     m_closeButton = Look::createTitleBarCloseButton(this, CloseButtonSize);
 
     auto* layout = new QHBoxLayout;

@@ -27,8 +27,8 @@ class UTILITYWIDGETS_EXPORT OxTitleBar : public QWidget
 
 public:
     /// `iconPath` is a file or resource that QPixmap reads, shown in 29 x 28 pixels. An empty path
-    /// or one that cannot be read leaves that place empty. The bar grows with its title, which is
-    /// never cut off: keep it short.
+    /// or one that cannot be read leaves that place empty. A title that has no room in the
+    /// bar ends in an ellipsis.
     explicit OxTitleBar(QWidget* parent = nullptr, const QString& iconPath = QString(),
                         const QString& title = QString());
 
