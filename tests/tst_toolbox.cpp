@@ -62,7 +62,6 @@ private Q_SLOTS:
     void aMoveWithoutAPressScrollsNothing();
     void aSecondPressDoesNotMoveTheDragsOrigin();
     void aDragThatStartsOnAPanelScrolls();
-    void aDragEndsWhenTheBoxIsHidden();
     void aDragEndsWhenTheBoxIsDisabled();
     void aDragEndsWhenADialogComesUp();
 };
@@ -333,28 +332,6 @@ void TestToolBox::aDragThatStartsOnAPanelScrolls()
 }
 
 // A finger that the box never sees lifted must not make its next drag jump.
-
-void TestToolBox::aDragEndsWhenTheBoxIsHidden()
-{
-    QWidget window;
-    LongToolBox box;
-    box.setParent(&window); // which gets the release
-    box.show();
-    window.resize(BoxSize);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    Finger finger;
-    finger.press(box.viewport());
-    finger.moveBy(QPoint(0, -50));
-    box.hide();
-    finger.release();
-    box.show();
-
-    finger.press(box.viewport());
-    finger.moveBy(QPoint(0, -3));
-    finger.release();
-    QCOMPARE(box.position(), 53);
-}
 
 void TestToolBox::aDragEndsWhenTheBoxIsDisabled()
 {
