@@ -20,6 +20,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
+#include <QTimer>
 #include <QWindow>
 
 #include <functional>
@@ -238,6 +239,8 @@ private Q_SLOTS:
     void focusLostFollowsTheBaseClass_data() { addViewRows(); }
     void focusLostFollowsTheBaseClass();
 
+    void itemThatIsPartlyHiddenStaysUnderASlowFinger_data() { addViewRows(); }
+    void itemThatIsPartlyHiddenStaysUnderASlowFinger();
     void buttonDeepInAnIndexWidgetIsTappedAndDragged_data() { addFingerRows(); }
     void buttonDeepInAnIndexWidgetIsTappedAndDragged();
     void indexWidgetThatIsPartlyHiddenStaysUnderTheFinger_data() { addFingerRows(); }
@@ -726,6 +729,28 @@ void TestDragScrollViews::focusLostFollowsTheBaseClass()
     Finger().tap(other);
     QVERIFY(!view->hasFocus());
     QCOMPARE(focusLost.count(), 1);
+}
+
+void TestDragScrollViews::itemThatIsPartlyHiddenStaysUnderASlowFinger()
+{
+    SHOW_SUBJECT;
+    subject.vertical()->setValue(500);
+    const int top = view->visualRect(view->indexAt(QPoint(5, 5))).top();
+    subject.vertical()->setValue(500 + view->visualRect(view->indexAt(QPoint(5, 5))).height() + top
+                                 - 3); // three pixels of the first item are left
+    const int before = subject.vertical()->value();
+    QSignalSpy clicked(view, &QAbstractItemView::clicked);
+    Finger finger;
+    finger.press(view->viewport(), QPoint(5, 1));
+    // What the view would do of itself is due before this timer, which is started later.
+    QTimer later;
+    later.setSingleShot(true);
+    QSignalSpy held(&later, &QTimer::timeout);
+    later.start(QApplication::doubleClickInterval() + 150);
+    QVERIFY(held.wait());
+    QCOMPARE(subject.vertical()->value(), before);
+    finger.release();
+    QCOMPARE(clicked.count(), 1);
 }
 
 void TestDragScrollViews::buttonDeepInAnIndexWidgetIsTappedAndDragged()

@@ -14,6 +14,24 @@
 #include <cstdlib>
 #include <utility>
 
+namespace {
+
+bool isCausedByPress(const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        return static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 namespace Touch {
 
 bool DragGesture::isBeyondTapRange(const QPoint& position, Qt::Orientations counted) const
@@ -91,11 +109,7 @@ bool holdsFocus(const QWidget* indexWidget)
 
 ScrollPause::ScrollPause(QAbstractItemView* view, const QEvent& event)
 {
-    if (event.type() != QEvent::FocusIn && event.type() != QEvent::FocusOut) {
-        return;
-    }
-    if (static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason
-        && view->hasAutoScroll()) {
+    if (isCausedByPress(event) && view->hasAutoScroll()) {
         m_view = view;
         view->setAutoScroll(false);
     }

@@ -74,9 +74,10 @@ bool losesFinger(const QWidget& widget, const QEvent& event);
 bool holdsFocus(const QWidget* indexWidget);
 
 /*!
- * Keeps a view from scrolling by itself while it handles an event that moves the focus because of a
- * press; does nothing at any other event.
+ * Keeps a view from scrolling by itself because of a press: while it handles the press, or an event
+ * that moves the focus because of one. Does nothing at any other event.
  *
+ * The view would scroll the pressed item into full view half a second later, finger or not.
  * The view makes the item of an index widget that gains the focus current and would scroll it into
  * full view. Under a finger it must stay where it is, or the release would miss it.
  */

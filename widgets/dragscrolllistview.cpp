@@ -48,12 +48,14 @@ bool DragScrollListView::eventFilter(QObject* object, QEvent* event)
 void DragScrollListView::mousePressEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mousePressEvent(event);
 }
 
 void DragScrollListView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mouseDoubleClickEvent(event);
 }
 

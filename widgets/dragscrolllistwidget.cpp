@@ -49,12 +49,14 @@ bool DragScrollListWidget::eventFilter(QObject* object, QEvent* event)
 void DragScrollListWidget::mousePressEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mousePressEvent(event);
 }
 
 void DragScrollListWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mouseDoubleClickEvent(event);
 }
 

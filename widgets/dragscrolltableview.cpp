@@ -49,12 +49,14 @@ bool DragScrollTableView::eventFilter(QObject* object, QEvent* event)
 void DragScrollTableView::mousePressEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mousePressEvent(event);
 }
 
 void DragScrollTableView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mouseDoubleClickEvent(event);
 }
 

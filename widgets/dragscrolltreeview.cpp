@@ -48,6 +48,7 @@ bool DragScrollTreeView::eventFilter(QObject* object, QEvent* event)
 void DragScrollTreeView::mousePressEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     // Past the tree view's own handler, which would unfold a branch whose mark is pressed: nobody
     // knows yet whether this becomes a drag. The same holds for a double click.
     QAbstractItemView::mousePressEvent(event);
@@ -56,6 +57,7 @@ void DragScrollTreeView::mousePressEvent(QMouseEvent* event)
 void DragScrollTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
+    const Touch::ScrollPause pause(this, *event);
     QAbstractItemView::mouseDoubleClickEvent(event);
 }
 
