@@ -9,15 +9,8 @@
 const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
-        lookFamily(),
-        dialogsFamily(),
-        inputsFamily(),
-        controlsFamily(),
-        coloursFamily(),
-        panelsFamily(),
-        scrollingFamily(),
-        touchHelpersFamily(),
-        platformFamily(),
+        lookFamily(),   dialogsFamily(),   inputsFamily(),       controlsFamily(), coloursFamily(),
+        panelsFamily(), scrollingFamily(), touchHelpersFamily(), platformFamily(),
     };
     return all;
 }
