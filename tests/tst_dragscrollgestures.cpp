@@ -12,6 +12,7 @@
 #include <QStandardItemModel>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -157,9 +158,9 @@ void TestDragScrollGestures::listViewClicksOncePerTapAndNeverForADrag()
 {
     List list;
     QVERIFY(list.show());
-    QList<int> clickedRows;
+    std::vector<int> clickedRows;
     connect(&list.view, &QListView::clicked, this,
-            [&](const QModelIndex& index) { clickedRows.append(index.row()); });
+            [&](const QModelIndex& index) { clickedRows.push_back(index.row()); });
     const auto finger = fingerOfRow();
 
     RandomGestures random(list.view, 100);
@@ -169,7 +170,8 @@ void TestDragScrollGestures::listViewClicksOncePerTapAndNeverForADrag()
         const int row = list.view.indexAt(gesture.press).row();
         clickedRows.clear();
         perform(gesture, list.view.viewport(), *finger);
-        const QList<int> expected = gesture.isDrag ? QList<int>() : QList<int> { row };
+        const std::vector<int> expected =
+            gesture.isDrag ? std::vector<int>() : std::vector<int> { row };
         QVERIFY2(clickedRows == expected, qPrintable(QStringLiteral("gesture %1").arg(number)));
         QCOMPARE(list.view.currentIndex().row(), row);
         drags += gesture.isDrag ? 1 : 0;
@@ -180,12 +182,12 @@ void TestDragScrollGestures::listViewClicksOncePerTapAndNeverForADrag()
 void TestDragScrollGestures::listOfButtonsClicksOncePerTapAndNeverForADrag()
 {
     List list;
-    QList<int> clickedRows;
+    std::vector<int> clickedRows;
     int listClicks = 0;
     for (int row = 0; row < Rows; ++row) {
         auto* button = new DragScrollButton(QString::number(row));
         button->setCheckable(row % 2 == 0);
-        connect(button, &QPushButton::clicked, this, [&, row] { clickedRows.append(row); });
+        connect(button, &QPushButton::clicked, this, [&, row] { clickedRows.push_back(row); });
         list.view.setIndexWidget(list.model.index(row, 0), button);
     }
     connect(&list.view, &QListView::clicked, this, [&] { ++listClicks; });
@@ -202,9 +204,10 @@ void TestDragScrollGestures::listOfButtonsClicksOncePerTapAndNeverForADrag()
         listClicks = 0;
         perform(gesture, list.view.viewport(), *finger);
         const QByteArray which = QByteArrayLiteral("gesture ") + QByteArray::number(number);
-        const QList<int> expected = gesture.isDrag ? QList<int>() : QList<int> { index.row() };
+        const std::vector<int> expected =
+            gesture.isDrag ? std::vector<int>() : std::vector<int> { index.row() };
         QVERIFY2(clickedRows == expected, which.constData());
-        QVERIFY2(listClicks == expected.count(), which.constData());
+        QVERIFY2(listClicks == int(expected.size()), which.constData());
         QVERIFY2(button->isChecked() == (checked != (button->isCheckable() && !gesture.isDrag)),
                  which.constData());
         QVERIFY2(!button->isDown(), which.constData());

@@ -98,6 +98,8 @@ bool DragScrollButton::event(QEvent* event)
     return QPushButton::event(event);
 }
 
+// NOLINTBEGIN(bugprone-parent-virtual-call): QPushButton's own handlers are passed over on purpose.
+//
 // Every handler leaves its event ignored, so that the container below follows the finger too. In
 // each, a slot may have deleted the button when the base class returns; the base has accepted the
 // event then, and nobody goes on from the dead button to its parent.
@@ -174,6 +176,8 @@ void DragScrollButton::mouseReleaseEvent(QMouseEvent* event)
         QCoreApplication::sendEvent(parent, &release);
     }
 }
+
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void DragScrollButton::beginGesture(const QMouseEvent& event)
 {

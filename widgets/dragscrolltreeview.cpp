@@ -51,14 +51,14 @@ void DragScrollTreeView::mousePressEvent(QMouseEvent* event)
     const Touch::ScrollPause pause(this, *event);
     // Past the tree view's own handler, which would unfold a branch whose mark is pressed: nobody
     // knows yet whether this becomes a drag. The same holds for a double click.
-    QAbstractItemView::mousePressEvent(event);
+    QAbstractItemView::mousePressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void DragScrollTreeView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     m_gesture->begin(event->globalPosition().toPoint());
     const Touch::ScrollPause pause(this, *event);
-    QAbstractItemView::mouseDoubleClickEvent(event);
+    QAbstractItemView::mouseDoubleClickEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void DragScrollTreeView::mouseMoveEvent(QMouseEvent* event)

@@ -22,7 +22,9 @@ namespace Gallery {
 
 namespace {
 
-constexpr int Height = 150; // of each instance: low enough for a drag to have somewhere to go
+constexpr int Height = 150; // of each list: low enough for a drag to have somewhere to go
+constexpr int ColumnWidth = 220; // of three columns
+constexpr QSize RowSize(100, 35); // a finger's
 
 QStringList layerNames(int count)
 {
@@ -39,7 +41,9 @@ QStandardItemModel* createLayers(QObject* parent)
     auto* model = new QStandardItemModel(parent);
     const QStringList names = layerNames(40);
     for (const QString& name : names) {
-        model->appendRow(new QStandardItem(name));
+        auto* item = new QStandardItem(name);
+        item->setSizeHint(QSize(600, RowSize.height()));
+        model->appendRow(item);
     }
     return model;
 }
@@ -66,7 +70,9 @@ QStandardItemModel* createTree(QObject* parent)
         for (int number = 1; number <= 8; ++number) {
             category->appendRow(new QStandardItem(
                 QStringLiteral("%1 %2").arg(QString::fromLatin1(name)).arg(number)));
+            category->child(number - 1)->setSizeHint(RowSize);
         }
+        category->setSizeHint(RowSize);
         model->appendRow(category);
     }
     return model;
@@ -79,10 +85,10 @@ template <typename View> View* prepared(View* view)
     return view;
 }
 
-template <typename View> View* disabled(View* view)
+template <typename Widget> Widget* disabled(Widget* widget)
 {
-    view->setEnabled(false);
-    return view;
+    widget->setEnabled(false);
+    return widget;
 }
 
 void showDragScrollListView(Stage& stage)
@@ -109,9 +115,13 @@ void showDragScrollListWidget(Stage& stage)
     //! [DragScrollListWidget]
     for (int row = 0; row < list->count(); ++row) {
         list->item(row)->setCheckState(Qt::Unchecked);
+        list->item(row)->setSizeHint(RowSize);
     }
     auto* other = new DragScrollListWidget;
     other->addItems(layerNames(40));
+    for (int row = 0; row < other->count(); ++row) {
+        other->item(row)->setSizeHint(RowSize);
+    }
     stage.setColumns(2);
     stage.add(QStringLiteral("With check boxes"), prepared(list));
     stage.add(QStringLiteral("Disabled"), disabled(prepared(other)));
@@ -154,18 +164,17 @@ void showDragScrollButton(Stage& stage)
     for (int number = 1; number <= 20; ++number) {
         auto* item = new QListWidgetItem(list);
         auto* button = new DragScrollButton(QStringLiteral("Category %1").arg(number));
-        item->setSizeHint(button->sizeHint());
+        item->setSizeHint(QSize(200, 35));
         list->setItemWidget(item, button);
     }
     //! [DragScrollButton]
-    stage.addWide(QStringLiteral("In a list: a tap clicks, a drag scrolls"), prepared(list));
-    stage.addStates([](const QString& text) { return new DragScrollButton(text); },
-                    QStringLiteral("Arrows"));
-
+    stage.add(QStringLiteral("In a list: tap or drag"), prepared(list));
+    stage.add(QStringLiteral("Enabled"), new DragScrollButton(QStringLiteral("Arrows")));
+    stage.add(QStringLiteral("Disabled"), disabled(new DragScrollButton(QStringLiteral("Arrows"))));
     for (const QString& text : { QStringLiteral("Arrows"), longText() }) {
-        auto* fitted = new DragScrollButton(QIcon(QStringLiteral(LOOK_IMAGE_CLOSE)), text);
+        auto* fitted = new DragScrollButton(QIcon(QStringLiteral(LOOK_IMAGE_INFORMATION)), text);
         fitted->setFont(ApplicationFont::getWidgetFontLarge(true));
-        fitted->setFixedSize(220, 48);
+        fitted->setFixedSize(ColumnWidth, 48);
         DragScrollButton::fitButtonText(fitted, 8, 4);
         stage.add(QStringLiteral("fitButtonText"), fitted);
     }
@@ -180,19 +189,22 @@ void showDragScrollGroupBox(Stage& stage)
         auto* layout = new QVBoxLayout(box);
         layout->addWidget(new DragScrollButton(QStringLiteral("All of them")));
         auto* item = new QListWidgetItem(list);
-        item->setSizeHint(box->sizeHint());
+        item->setSizeHint(QSize(200, 90));
         list->setItemWidget(item, box);
     }
     //! [DragScrollGroupBox]
-    stage.addWide(QStringLiteral("In a list: dragged by title, gap or button"), prepared(list));
-    stage.addStates(
-        [](const QString& text) {
-            auto* box = new DragScrollGroupBox(text);
-            box->setCheckable(true);
-            box->setFixedHeight(60);
-            return box;
-        },
-        QStringLiteral("Arrows"));
+    stage.add(QStringLiteral("In a list: drag it anywhere"), prepared(list));
+    stage.setColumns(3);
+    for (const QString& title : { QStringLiteral("Arrows"), longText() }) {
+        auto* box = new DragScrollGroupBox(title);
+        box->setCheckable(true);
+        box->setFixedSize(ColumnWidth, 50);
+        stage.add(QStringLiteral("Taps do not toggle"), box);
+    }
+    auto* other = disabled(new DragScrollGroupBox(QStringLiteral("Arrows")));
+    other->setCheckable(true);
+    other->setFixedSize(ColumnWidth, 50);
+    stage.add(QStringLiteral("Disabled"), other);
 }
 
 } // namespace
