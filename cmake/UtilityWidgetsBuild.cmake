@@ -95,3 +95,30 @@ function(uw_forwarding_header out header class)
     file(CONFIGURE OUTPUT "${forwarding}" CONTENT "#include \"${header}\" // IWYU pragma: export\n")
     set(${out} ${${out}} "${forwarding}" PARENT_SCOPE)
 endfunction()
+
+# uw_add_classes(Class ...)
+#
+# Public classes of the shared library, one pair of files each in this folder, named after the class
+# in lower case.
+function(uw_add_classes)
+    set(headers)
+    set(forwarding_headers)
+    foreach(class IN LISTS ARGN)
+        string(TOLOWER "${class}" base)
+        target_sources(UtilityWidgets PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${base}.cpp")
+        list(APPEND headers "${CMAKE_CURRENT_SOURCE_DIR}/${base}.h")
+        uw_forwarding_header(forwarding_headers ${base}.h ${class})
+    endforeach()
+    target_sources(
+        UtilityWidgets
+        PUBLIC FILE_SET
+               HEADERS
+               BASE_DIRS
+               "${CMAKE_CURRENT_SOURCE_DIR}"
+               "${PROJECT_BINARY_DIR}/include"
+               FILES
+               ${headers}
+               ${forwarding_headers})
+    # The gallery's tests read it: every public class has a page.
+    set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_CLASSES ${ARGN})
+endfunction()

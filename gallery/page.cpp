@@ -10,7 +10,7 @@ const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
         lookFamily(),   dialogsFamily(),   inputsFamily(),       controlsFamily(), coloursFamily(),
-        panelsFamily(), scrollingFamily(), touchHelpersFamily(), platformFamily(),
+        panelsFamily(), scrollingFamily(), touchHelpersFamily(), symbolsFamily(),  platformFamily(),
     };
     return all;
 }

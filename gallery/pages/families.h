@@ -17,6 +17,7 @@ Family lookFamily();
 Family panelsFamily();
 Family platformFamily();
 Family scrollingFamily();
+Family symbolsFamily();
 Family touchHelpersFamily();
 
 } // namespace Gallery

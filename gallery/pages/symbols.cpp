@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "pages/families.h"
+
+#include "stage.h"
+#include "symboldatabasemodel.h"
+
+#include <QListView>
+#include <QStandardItemModel>
+#include <QTemporaryDir>
+
+namespace Gallery {
+
+namespace {
+
+struct Drawing
+{
+    const char* name;
+    const char* category;
+    const char* tag;
+    const char* shape;
+};
+
+const Drawing Drawings[] {
+    { "Up", "Arrows", "pointer", "<path d='M24 6L42 26H31V42H17V26H6Z' fill='#2b2b2b'/>" },
+    { "Down", "Arrows", "pointer", "<path d='M24 42L6 22H17V6H31V22H42Z' fill='#2b2b2b'/>" },
+    { "Danger", "Signs", "warning",
+      "<path d='M24 5L45 43H3Z' fill='#fd7800'/><path d='M22 17h4v14h-4zM22 34h4v4h-4z'/>" },
+    { "Stop", "Signs", "warning",
+      "<path d='M16 4H32L44 16V32L32 44H16L4 32V16Z' fill='#c00000'/>"
+      "<path d='M10 21h28v6H10z' fill='white'/>" },
+};
+
+QByteArray documentOf(const Drawing& drawing)
+{
+    return QByteArrayLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 48 48'>")
+        + drawing.shape + QByteArrayLiteral("</svg>");
+}
+
+/// A library in a folder that lives as long as `owner`.
+SymbolDatabaseModel* makeLibrary(QObject* owner)
+{
+    auto folder = std::make_shared<QTemporaryDir>();
+    QObject::connect(owner, &QObject::destroyed, [folder] {});
+    //! [SymbolDatabaseModel]
+    auto* symbols = new SymbolDatabaseModel(owner);
+    symbols->setDatabasePath(folder->filePath(QStringLiteral("symbols.db")));
+    symbols->createSchema();
+    symbols->addCategory(QStringLiteral("Arrows"));
+    //! [SymbolDatabaseModel]
+    symbols->addCategory(QStringLiteral("Signs"));
+    for (const Drawing& drawing : Drawings) {
+        const QByteArray svg = documentOf(drawing);
+        const QString name = QString::fromLatin1(drawing.name);
+        const QString category = QString::fromLatin1(drawing.category);
+        //! [SymbolDatabaseModel]
+        symbols->addSymbol(svg, symbols->getThumbnailDataFromRawData(svg), name, category);
+        //! [SymbolDatabaseModel]
+    }
+    return symbols;
+}
+
+QListView* createView(QStandardItemModel* items)
+{
+    auto* view = new QListView;
+    view->setViewMode(QListView::IconMode);
+    view->setIconSize(QSize(50, 50));
+    view->setGridSize(QSize(66, 66));
+    view->setMovement(QListView::Static);
+    view->setModel(items);
+    items->setParent(view);
+    return view;
+}
+
+void showSymbolDatabaseModel(Stage& stage)
+{
+    auto* items = new QStandardItemModel;
+    QListView* view = createView(items);
+    SymbolDatabaseModel* symbols = makeLibrary(view);
+
+    const auto search = [symbols, items](const QString& category) {
+        items->clear();
+        //! [SymbolDatabaseModel]
+        items->appendColumn(symbols->getItemsBySearch(category));
+        //! [SymbolDatabaseModel]
+    };
+    search(QString());
+    stage.addWide(QStringLiteral("Symbols of a category; the name is the tool tip"), view);
+    stage.watch(QStringLiteral("Library"), symbols);
+    stage.addAction(QStringLiteral("All"), [search] { search(QString()); });
+    const QStringList categories = symbols->categories();
+    for (const QString& category : categories) {
+        stage.addAction(category, [search, category] { search(category); });
+    }
+    stage.addAction(QStringLiteral("Unknown category"),
+                    [search] { search(QStringLiteral("Flowers")); });
+}
+
+} // namespace
+
+Family symbolsFamily()
+{
+    return {
+        QStringLiteral("Symbols"),
+        QStringLiteral(":/gallery/pages/symbols.cpp"),
+        {
+            {
+                QStringLiteral("SymbolDatabaseModel"),
+                QStringLiteral("A library of symbols, with categories and tags, in one file."),
+                showSymbolDatabaseModel,
+                {},
+            },
+        },
+    };
+}
+
+} // namespace Gallery
