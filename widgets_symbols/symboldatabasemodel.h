@@ -17,7 +17,8 @@ class QStandardItem;
 /*!
  * \brief A library of symbols: SVG documents with categories, tags and thumbnails in an SQLite file.
  *
- * Use it to make such a library, to fill it and to search it. The object is nothing but a path: every operation
+ * Use it to make such a library, to fill it and to search it; where a person waits, let a
+ * SymbolDatabaseWorker do it on another thread. The object is nothing but a path: every operation
  * opens the file, does its work and closes it again, so that no file is held open in between and
  * any number of models, in any number of threads and processes, may use the same file.
  *

@@ -5,10 +5,13 @@
 
 #include "stage.h"
 #include "symboldatabasemodel.h"
+#include "symboldatabaseworker.h"
 
 #include <QListView>
+#include <QPixmap>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
+#include <QThread>
 
 namespace Gallery {
 
@@ -97,6 +100,67 @@ void showSymbolDatabaseModel(Stage& stage)
                     [search] { search(QStringLiteral("Flowers")); });
 }
 
+/// A thread that ends with its owner, and the worker on it.
+class WorkerThread : public QThread
+{
+public:
+    explicit WorkerThread(QObject* parent)
+        : QThread(parent)
+    {
+        //! [SymbolDatabaseWorker]
+        worker.moveToThread(this);
+        start();
+        //! [SymbolDatabaseWorker]
+    }
+    ~WorkerThread() override
+    {
+        quit();
+        wait();
+    }
+
+    SymbolDatabaseWorker worker;
+};
+
+void showSymbolDatabaseWorker(Stage& stage)
+{
+    auto* items = new QStandardItemModel;
+    QListView* view = createView(items);
+    const QString path = makeLibrary(view)->databasePath();
+    auto* thread = new WorkerThread(view);
+    SymbolDatabaseWorker* worker = &thread->worker;
+
+    const auto showResults = [worker, items] {
+        items->clear();
+        //! [SymbolDatabaseWorker]
+        const QList<QStandardItem*> results = worker->getResults();
+        for (QStandardItem* item : results) {
+            QPixmap thumbnail;
+            thumbnail.loadFromData(item->data(Qt::UserRole + 2).toByteArray());
+            item->setIcon(thumbnail);
+        }
+        items->appendColumn(results);
+        //! [SymbolDatabaseWorker]
+    };
+    //! [SymbolDatabaseWorker]
+    QObject::connect(worker, &SymbolDatabaseWorker::resultReady, items, showResults);
+    //! [SymbolDatabaseWorker]
+    // A page is shown complete, unlike a screen that a person waits for.
+    QMetaObject::invokeMethod(
+        worker, [worker, path] { worker->getStartupItems(path); }, Qt::BlockingQueuedConnection);
+    showResults();
+
+    stage.addWide(QStringLiteral("Symbols that another thread has read"), view);
+    stage.watch(QStringLiteral("Worker"), worker);
+    for (const QString& category :
+         { QString(), QStringLiteral("Arrows"), QStringLiteral("Signs") }) {
+        stage.addAction(category.isEmpty() ? QStringLiteral("All") : category, [worker, category] {
+            //! [SymbolDatabaseWorker]
+            QMetaObject::invokeMethod(worker, [=] { worker->getItemsBySearch(category); });
+            //! [SymbolDatabaseWorker]
+        });
+    }
+}
+
 } // namespace
 
 Family symbolsFamily()
@@ -109,6 +173,12 @@ Family symbolsFamily()
                 QStringLiteral("SymbolDatabaseModel"),
                 QStringLiteral("A library of symbols, with categories and tags, in one file."),
                 showSymbolDatabaseModel,
+                {},
+            },
+            {
+                QStringLiteral("SymbolDatabaseWorker"),
+                QStringLiteral("Searches and changes a library of symbols on another thread."),
+                showSymbolDatabaseWorker,
                 {},
             },
         },
