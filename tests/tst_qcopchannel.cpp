@@ -7,6 +7,7 @@
 #include "support/test.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@
 #include <QSignalSpy>
 #include <QThread>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <future>
@@ -23,6 +25,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -204,6 +207,68 @@ private:
     bool m_connected = false;
 };
 
+/// A listener that was not written with the class that is tested, as docs/channel-protocol.md says.
+class RawListener
+{
+public:
+    explicit RawListener(int number)
+        : m_folder(::open(channelFolder().path().toUtf8().constData(), O_PATH | O_CLOEXEC))
+        , m_name(
+              QCryptographicHash::hash(Name.toUtf8(), QCryptographicHash::Sha256).toHex().left(32)
+              + ".test-" + QByteArray::number(number))
+    {
+        const QByteArray unfinished = '.' + m_name + ".0";
+        m_lock = ::openat(m_folder, unfinished.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        ::flock(m_lock, LOCK_EX | LOCK_NB);
+        rename(unfinished, m_name + ".lock");
+        m_socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+        const QByteArray path =
+            "/proc/self/fd/" + QByteArray::number(m_folder) + '/' + m_name + ".new";
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        qstrncpy(address.sun_path, path.constData(), sizeof(address.sun_path));
+        if (::bind(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0
+            && ::listen(m_socket, 10) == 0) {
+            rename(m_name + ".new", m_name + ".sock");
+        }
+    }
+    ~RawListener()
+    {
+        for (const char* suffix : { ".sock", ".lock" }) {
+            const QByteArray name = m_name + suffix;
+            ::unlinkat(m_folder, name.constData(), 0);
+        }
+        for (const int fd : { m_connection, m_socket, m_lock, m_folder }) {
+            ::close(fd);
+        }
+    }
+
+    Q_DISABLE_COPY_MOVE(RawListener)
+
+    /// What has arrived since the last call, on one connection.
+    QByteArray read()
+    {
+        if (m_connection < 0) {
+            m_connection = ::accept4(m_socket, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        }
+        QByteArray bytes(4096, 0);
+        const ssize_t size = ::recv(m_connection, bytes.data(), size_t(bytes.size()), 0);
+        return bytes.left(std::max<ssize_t>(size, 0));
+    }
+
+private:
+    void rename(const QByteArray& from, const QByteArray& to) const
+    {
+        ::renameat(m_folder, from.constData(), m_folder, to.constData());
+    }
+
+    int m_folder;
+    QByteArray m_name;
+    int m_lock = -1;
+    int m_socket = -1;
+    int m_connection = -1;
+};
+
 QByteArray payload(const QString& msg, const QByteArray& data)
 {
     QByteArray bytes;
@@ -278,6 +343,7 @@ private Q_SLOTS:
     void aKilledListenerIsForgottenByTheNextSend();
     void aKilledListenerDoesNotKeepTheOthersFromAMessage();
     void unfinishedFilesOfTheDeadAreRemoved();
+    void aListenerThatHasJustBeenMadeIsFound();
     void keepsNoFileDescriptors();
 
     // A listener that does not read.
@@ -889,6 +955,26 @@ void TestQCopChannel::unfinishedFilesOfTheDeadAreRemoved()
     QCOMPARE(channelFiles(), QStringList());
 }
 
+void TestQCopChannel::aListenerThatHasJustBeenMadeIsFound()
+{
+    {
+        const QCopChannel makesTheFolder(Name);
+    }
+    const QByteArray one = frame(payload(QStringLiteral("1"), "data"));
+    const QByteArray two = frame(payload(QStringLiteral("2"), {}));
+    // Many times, because it happens within one tick of the clock that the folder's times show.
+    for (int i = 0; i < 100; ++i) {
+        RawListener first(2 * i);
+        QVERIFY(QCopChannel::send(Name, QStringLiteral("1"), "data"));
+        RawListener second(2 * i + 1);
+        QVERIFY(QCopChannel::isRegistered(Name));
+        QVERIFY(QCopChannel::send(Name, QStringLiteral("2")));
+        QCOMPARE(first.read(), one + two);
+        QCOMPARE(second.read(), two);
+    }
+    QVERIFY(!QCopChannel::send(Name, QStringLiteral("nobody is left")));
+}
+
 void TestQCopChannel::keepsNoFileDescriptors()
 {
     const auto use = [] {
@@ -945,7 +1031,7 @@ void TestQCopChannel::aStoppedListenerCostsOneSecondAtMost()
         QCOMPARE(elsewhere->nextLine(), got(QString::number(i), QByteArray(size, 'x')));
     }
     // What was in the queue in part is completed by the next message, or else was never there.
-    while (!QCopChannel::send(Name, QStringLiteral("after"))) { }
+    QTRY_VERIFY(QCopChannel::send(Name, QStringLiteral("after")));
     QByteArray line = elsewhere->nextLine();
     if (size == 1'000'000) {
         QCOMPARE(line, got(QString::number(accepted), QByteArray(size, 'x')));
