@@ -911,7 +911,7 @@ void TestQCopChannel::aKilledListenerIsForgottenByTheNextSend()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(!QCopChannel::send(Name, QStringLiteral("nobody is there")));
-    QVERIFY2(timer.elapsed() < 500, "a dead listener is not waited for");
+    QVERIFY2(timer.elapsed() < 900, "a dead listener is not waited for");
     QCOMPARE(channelFiles(), QStringList());
 
     const auto next = listenElsewhere();
@@ -1018,12 +1018,14 @@ void TestQCopChannel::aStoppedListenerCostsOneSecondAtMost()
     while (QCopChannel::send(Name, QString::number(accepted), QByteArray(size, 'x'))) {
         ++accepted;
     }
-    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    // One second of waiting; the rest is for filling the queue on a slow machine.
+    QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
     timer.restart();
     for (int i = 0; i < 100; ++i) {
         QVERIFY(!QCopChannel::send(Name, QStringLiteral("lost"), QByteArray(size, 'x')));
     }
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    // Not a second each.
+    QVERIFY2(timer.elapsed() < 20'000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(QCopChannel::isRegistered(Name));
 
     elsewhere->sendSignal(SIGCONT);
