@@ -5,6 +5,7 @@
 
 #include "applicationfont.h"
 #include "containertitlebar.h"
+#include "dragscrolllistwidget.h"
 #include "look/palette.h"
 #include "look/styledwidgetpainting.h"
 #include "page.h"
@@ -56,7 +57,7 @@ QString windowStyle()
 
 GalleryWindow::GalleryWindow(QWidget* parent)
     : QWidget(parent)
-    , m_list(new QListWidget)
+    , m_list(new DragScrollListWidget)
     , m_view(new PageView)
 {
     setObjectName(QStringLiteral("GalleryWindow"));
@@ -70,7 +71,6 @@ GalleryWindow::GalleryWindow(QWidget* parent)
     m_list->setFixedWidth(ListWidth);
     m_list->setFont(ApplicationFont::getWidgetFont(false));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     fillList();
 
     auto* bar = new ContainerTitleBar(this, QStringLiteral("UtilityWidgets Gallery"));
