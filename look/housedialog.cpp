@@ -5,7 +5,9 @@
 
 #include "look/icons.h"
 #include "look/images.h"
+#include "look/sheets.h"
 
+#include <QAbstractButton>
 #include <QDialog>
 #include <QIcon>
 
@@ -15,4 +17,10 @@ void Look::prepareHouseDialog(QDialog* dialog)
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     dialog->setWindowIcon(icon(QStringLiteral(LOOK_IMAGE_APPLICATION)));
     dialog->setWindowTitle(QStringLiteral("Sigilant PRO"));
+}
+
+void Look::prepareMessageButton(QAbstractButton* button)
+{
+    button->setMinimumSize(80, 30);
+    button->setStyleSheet(messageButton());
 }

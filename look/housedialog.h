@@ -3,6 +3,7 @@
 
 #pragma once
 
+class QAbstractButton;
 class QDialog;
 
 namespace Look {
@@ -13,5 +14,8 @@ namespace Look {
  * nor with the last window: dialogs live on the stack of a static helper or are shown again.
  */
 void prepareHouseDialog(QDialog* dialog);
+
+/// Gives `button` the size and the sheet of the buttons below a message or a question.
+void prepareMessageButton(QAbstractButton* button);
 
 } // namespace Look

@@ -151,8 +151,7 @@ void OxInputDialog::createButtons()
     m_buttonBox->setContentsMargins(Margin, Margin, Margin, Margin);
     const auto buttons = m_buttonBox->buttons();
     for (QAbstractButton* button : buttons) {
-        button->setMinimumSize(80, 30);
-        button->setStyleSheet(Look::messageButton());
+        Look::prepareMessageButton(button);
     }
 }
 

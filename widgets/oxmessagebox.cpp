@@ -263,8 +263,7 @@ void OxMessageBox::createButtons(QMessageBox::StandardButtons buttons,
 QPushButton* OxMessageBox::prepared(QPushButton* button) const
 {
     if (button != nullptr) {
-        button->setMinimumSize(80, 30);
-        button->setStyleSheet(Look::messageButton());
+        Look::prepareMessageButton(button);
         // Without a default button Enter must not press whichever button happens to have the focus.
         button->setAutoDefault(m_hasDefaultButton);
     }
