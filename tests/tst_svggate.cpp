@@ -34,6 +34,9 @@ private Q_SLOTS:
 
 namespace {
 
+/// A little more than the gate lets through, in bytes.
+constexpr qsizetype TooLarge = qsizetype(33) * 1024 * 1024;
+
 const QByteArray Open = "<svg xmlns='http://www.w3.org/2000/svg' "
                         "xmlns:xlink='http://www.w3.org/1999/xlink' width='50' height='50'>";
 const QByteArray Half = "<rect width='50' height='25' fill='red'/>";
@@ -267,9 +270,8 @@ void TestSvgGate::whatIsRefusedWhole_data()
                       "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
                       "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]><svg><text>&d;</text></svg>")
         << QStringLiteral("not well-formed");
-    QTest::newRow("too large") << svg(QByteArray(33 * 1024 * 1024, ' ')) << large;
-    QTest::newRow("too large when inflated")
-        << gzip(svg(QByteArray(33 * 1024 * 1024, ' '))) << large;
+    QTest::newRow("too large") << svg(QByteArray(TooLarge, ' ')) << large;
+    QTest::newRow("too large when inflated") << gzip(svg(QByteArray(TooLarge, ' '))) << large;
     QTest::newRow("compressed data cut off") << packed.chopped(5) << notPacked;
     QTest::newRow("a header of compressed data") << QByteArray("\x1f\x8b") << notPacked;
 }
@@ -291,7 +293,7 @@ void TestSvgGate::aStyleSheetReadsNoFile()
     sheet.write("rect { fill: blue }");
     sheet.close();
     const QByteArray path = QFile::encodeName(sheet.fileName());
-    const QByteArray reading = "<?xml-stylesheet type=\"text/css\" href=\"" + path + "\"?>" + Open;
+    const QByteArray reading = "<?xml-stylesheet type='text/css' href='" + path + "'?>" + Open;
     for (const QByteArray& reference :
          { reading, QByteArray(Open + "<style type='text/css'>@import url(" + path + ");</style>"),
            QByteArray(Open + "<style type='text/css'>@import '" + path + "';</style>") }) {

@@ -600,7 +600,7 @@ void TestSymbolDatabaseModel::aDamagedPageIsReported()
             .toInt();
     const int size = database.sql(QStringLiteral("PRAGMA page_size")).constFirst().toInt();
     QByteArray content = database.read();
-    content[(page - 1) * size] = '\xff';
+    content[qsizetype(page - 1) * size] = '\xff';
     database.overwrite(content);
 
     QCOMPARE(database.model.categories(), QStringList());

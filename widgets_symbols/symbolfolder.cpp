@@ -90,9 +90,9 @@ void SymbolReader::work()
         }
         const qsizetype index = m_started++;
         lock.unlock();
-        Symbol symbol = readSymbol(m_paths.at(index));
+        const Symbol symbol = readSymbol(m_paths.at(index));
         lock.lock();
-        m_ready.insert(index, std::move(symbol));
+        m_ready.insert(index, symbol);
         m_changed.notify_all();
     }
 }
