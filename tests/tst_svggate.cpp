@@ -293,7 +293,8 @@ void TestSvgGate::aStyleSheetReadsNoFile()
     sheet.write("rect { fill: blue }");
     sheet.close();
     const QByteArray path = QFile::encodeName(sheet.fileName());
-    const QByteArray reading = "<?xml-stylesheet type='text/css' href='" + path + "'?>" + Open;
+    const QByteArray reading =
+        R"(<?xml-stylesheet type="text/css" href=")" + path + R"("?>)" + Open;
     for (const QByteArray& reference :
          { reading, QByteArray(Open + "<style type='text/css'>@import url(" + path + ");</style>"),
            QByteArray(Open + "<style type='text/css'>@import '" + path + "';</style>") }) {
