@@ -66,7 +66,7 @@ public:
 private:
     int between(int least, int most) { return m_random.bounded(least, most + 1); }
 
-    /// A tap from here stays on its item wherever it strays, and on the part of it that is seen.
+    /// A tap from here stays on its item wherever it strays, and on what is seen of it.
     QPoint pointOnAnItem()
     {
         const QRect viewport = m_list.viewport()->rect();

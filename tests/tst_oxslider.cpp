@@ -358,7 +358,7 @@ void TestOxSlider::everyTapFollowsTheFormula()
             }
         }
     }
-    // All, but for the part of the empty range's groove that its handle can't leave.
+    // All, but for what of the empty range's groove its handle can't leave.
     const int pixels = 6 * (41 + 100 + 220);
     QVERIFY2(taps > pixels - 3 * 20, qPrintable(QString::number(taps)));
 }

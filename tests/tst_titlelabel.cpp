@@ -26,7 +26,7 @@ QImage picture(QLabel* label, int width)
     return label->grab().toImage();
 }
 
-/// Whether all of `inner` is on the part of the screen that `window` covers.
+/// Whether all of `inner` is where `window` covers the screen.
 bool isInside(const QWidget* inner, const QWidget* window)
 {
     return window->rect().contains(QRect(inner->mapTo(window, QPoint()), inner->size()));

@@ -62,7 +62,7 @@ QByteArray inflated(const QByteArray& data, QString& refusal)
     return document;
 }
 
-/// The part of a qualified name that says what it is.
+/// What a qualified name says behind its prefix.
 QStringView localName(QStringView name)
 {
     return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
