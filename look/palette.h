@@ -34,6 +34,9 @@
 #define LOOK_DISABLED_TOP "#d3d3d3"
 #define LOOK_DISABLED_BOTTOM "#a8a8a8"
 
+/// One-pixel border of a combo box.
+#define LOOK_COMBO_BORDER "#c6c6c6"
+
 /// Handle of the 35 px wide scroll bars.
 #define LOOK_SCROLL_HANDLE "#464646"
 

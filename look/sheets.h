@@ -25,4 +25,20 @@ QString framedPanel(const QString& selector);
 /// all three unlike the buttons of every other dialog.
 QString messageButton();
 
+// --- combo boxes --------------------------------------------------------------------------------
+
+/// Framed combo box with the house's arrow and a list of finger-sized entries, in the colours of
+/// the style. Ends in a line break and a blank, so that further rules can be appended.
+QString comboBox();
+
+/// comboBox() in white, with finger-sized scroll bars in its list. The minimum height counts what
+/// is inside the border: with it the box is 37 pixels high.
+QString whiteComboBox();
+
+// --- scroll bars --------------------------------------------------------------------------------
+
+/// Scroll bars that a finger can press, with an arrow at each end, for whatever area or combo box
+/// has this sheet. `extent` is their width or height, border included, in pixels.
+QString scrollBars(int extent = 35);
+
 } // namespace Look

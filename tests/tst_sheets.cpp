@@ -8,6 +8,36 @@
 
 #include <QColor>
 
+namespace {
+
+const QString ComboBox = QStringLiteral(
+    "QComboBox { border: 1px solid #c6c6c6; }\nQComboBox::drop-down { border: 0px; }\n"
+    "QComboBox::down-arrow { image: url(:/module_icons/ModuleIcons/combobox-down-arrow.png); }\n"
+    "QComboBox::down-arrow::disabled { image: "
+    "url(:/module_icons/ModuleIcons/combobox-down-arrow-disabled.png); }\n"
+    "QComboBox QAbstractItemView::item { min-height: 35px; }\n ");
+
+const QString ScrollBars = QStringLiteral(
+    "QScrollBar { border: 1px solid #fd7800; background-color: #f2f2f2; }\n"
+    "QScrollBar:vertical { width: %1px; margin: 35px 0px 35px 0px; }\n"
+    "QScrollBar:horizontal { height: %1px; margin: 0px 35px 0px 35px; }\n"
+    "QScrollBar::handle { background-color: #464646; }\n"
+    "QScrollBar::handle:vertical { min-height: 35px; }\n"
+    "QScrollBar::handle:horizontal { min-width: 35px; }\n"
+    "QScrollBar::add-page, QScrollBar::sub-page { background: none; }\n"
+    "QScrollBar::add-line, QScrollBar::sub-line { border: 1px solid #fd7800; "
+    "background-color: #f2f2f2; subcontrol-origin: margin; }\n"
+    "QScrollBar::sub-line:vertical { height: 33px; subcontrol-position: top; }\n"
+    "QScrollBar::add-line:vertical { height: 33px; subcontrol-position: bottom; }\n"
+    "QScrollBar::sub-line:horizontal { width: 33px; subcontrol-position: left; }\n"
+    "QScrollBar::add-line:horizontal { width: 33px; subcontrol-position: right; }\n"
+    "QScrollBar::up-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-up.png); }\n"
+    "QScrollBar::down-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-down.png); }\n"
+    "QScrollBar::left-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-left.png); }\n"
+    "QScrollBar::right-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-right.png); }\n");
+
+} // namespace
+
 // The full literal texts, on purpose: the only second copy of each sheet.
 class TestSheets : public Test
 {
@@ -18,6 +48,9 @@ private Q_SLOTS:
     void paletteIsExact();
     void framedPanelEndsInABlank();
     void messageButtonHasABorderOfTwoPixelsAndNoPressedColour();
+    void comboBoxEndsInALineBreakAndABlank();
+    void whiteComboBoxBringsHeightAndScrollBars();
+    void scrollBarsAreOfTheGivenExtent();
 };
 
 void TestSheets::paletteIsExact_data()
@@ -38,6 +71,7 @@ void TestSheets::paletteIsExact_data()
     add("text of a disabled button", LOOK_DISABLED_TEXT, "#848484");
     add("top of a disabled button", LOOK_DISABLED_TOP, "#d3d3d3");
     add("bottom of a disabled button", LOOK_DISABLED_BOTTOM, "#a8a8a8");
+    add("border of a combo box", LOOK_COMBO_BORDER, "#c6c6c6");
     add("scroll bar handle", LOOK_SCROLL_HANDLE, "#464646");
     add("button under a finger", LOOK_TOUCH_TINT, "#ff5800");
     add("ticks of a slider", LOOK_SLIDER_TICK, "#a5a294");
@@ -69,6 +103,24 @@ void TestSheets::messageButtonHasABorderOfTwoPixelsAndNoPressedColour()
                             "0 #5a5959, stop: 1 #060606);\n"
                             "border-radius: 6px; outline: 0;\n"
                             "}"));
+}
+
+void TestSheets::comboBoxEndsInALineBreakAndABlank()
+{
+    QCOMPARE(Look::comboBox(), ComboBox);
+}
+
+void TestSheets::whiteComboBoxBringsHeightAndScrollBars()
+{
+    QCOMPARE(Look::whiteComboBox(),
+             ComboBox + QStringLiteral("QComboBox { min-height: 35px; background-color: white; }\n")
+                 + ScrollBars.arg(35));
+}
+
+void TestSheets::scrollBarsAreOfTheGivenExtent()
+{
+    QCOMPARE(Look::scrollBars(), ScrollBars.arg(35));
+    QCOMPARE(Look::scrollBars(23), ScrollBars.arg(23));
 }
 
 UW_TEST_MAIN(TestSheets)

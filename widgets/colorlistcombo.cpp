@@ -4,23 +4,12 @@
 #include "colorlistcombo.h"
 
 #include "colorlistcombodelegate.h"
-#include "look/images.h"
 #include "look/sheetcolor.h"
+#include "look/sheets.h"
 
 #include <QColor>
 
 namespace {
-
-/// The sheet of the closed box in its ordinary colours.
-QString baseStyle()
-{
-    return QStringLiteral(
-        "QComboBox { border: 1px solid #c6c6c6; }\n"
-        "QComboBox::drop-down { border: 0px; }\n"
-        "QComboBox::down-arrow { image: url(" LOOK_IMAGE_COMBO_ARROW "); }\n"
-        "QComboBox::down-arrow::disabled { image: url(" LOOK_IMAGE_COMBO_ARROW_DISABLED "); }\n"
-        "QComboBox QAbstractItemView::item { min-height: 35px; }\n ");
-}
 
 /// The colour of that name for a view. Nothing for a text that is no colour: views paint an invalid
 /// colour black.
@@ -38,7 +27,7 @@ ColorListCombo::ColorListCombo(QWidget* parent)
     setObjectName(QStringLiteral("ColorListCombo"));
     // A combo box does not delete its last delegate, so this one belongs to it as a child.
     setItemDelegate(new ColorListComboDelegate(this));
-    setStyleSheet(baseStyle());
+    setStyleSheet(Look::comboBox());
 }
 
 ColorListCombo::ColorListCombo(const QList<QString>& names, const QList<QString>& backgroundColors,
@@ -54,7 +43,7 @@ void ColorListCombo::initializeComboBox(const QList<QString>& names,
 {
     clear();
     // The entry whose colours the closed box may still show is gone.
-    setStyleSheet(baseStyle());
+    setStyleSheet(Look::comboBox());
     for (int i = 0; i < int(names.size()); ++i) {
         addItem(names.at(i));
         setItemData(i, backgroundColors.value(i), BackgroundColorRole);
@@ -81,7 +70,7 @@ void ColorListCombo::comboBoxActivatedSlot(int index)
 {
     const QString background = Look::sheetColor(itemData(index, BackgroundColorRole).toString());
     const QString text = Look::sheetColor(itemData(index, TextColorRole).toString());
-    setStyleSheet(baseStyle()
+    setStyleSheet(Look::comboBox()
                   + QStringLiteral(" QComboBox {  color: %1;  background-color: %2; }")
                         .arg(text, background));
 }

@@ -57,7 +57,7 @@ void showPalette(Stage& stage)
         { "Button, top", LOOK_BUTTON_TOP },          { "Button, bottom", LOOK_BUTTON_BOTTOM },
         { "Disabled, frame", LOOK_DISABLED_BORDER }, { "Disabled, text", LOOK_DISABLED_TEXT },
         { "Disabled, top", LOOK_DISABLED_TOP },      { "Disabled, bottom", LOOK_DISABLED_BOTTOM },
-        { "Scroll bar handle", LOOK_SCROLL_HANDLE },
+        { "Scroll bar handle", LOOK_SCROLL_HANDLE }, { "Combo boxes, frame", LOOK_COMBO_BORDER },
     };
     for (const Colour& colour : colours) {
         stage.add(QString::fromLatin1(colour.role), createSwatch(colour.value));
