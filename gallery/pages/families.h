@@ -12,6 +12,7 @@ namespace Gallery {
 Family coloursFamily();
 Family controlsFamily();
 Family dialogsFamily();
+Family filesFamily();
 Family inputsFamily();
 Family lookFamily();
 Family panelsFamily();
