@@ -9,6 +9,7 @@
 
 #include <QSignalSpy>
 #include <QStandardItem>
+#include <QStandardItemModel>
 #include <QThread>
 
 #include <atomic>
@@ -32,6 +33,9 @@ private Q_SLOTS:
     void failuresWhileADatabaseIsOpenedAreNotLogged();
 
     void aSearchReplacesTheResults();
+    void resultsThatAreTakenAreForgotten();
+    void resultsThatNobodyTookDieWithTheWorker();
+    void aThreadThatIsToEndCutsTheSearchShort();
     void resultsCarryThumbnailsAndNoIcons();
     void anUnknownCategoryIsLogged();
     void errorsAreLoggedWithTheirPlace();
@@ -58,7 +62,6 @@ struct Subject
     {
         thread.quit();
         thread.wait();
-        takeNames();
     }
     Q_DISABLE_COPY_MOVE(Subject)
 
@@ -68,15 +71,11 @@ struct Subject
         thread.start();
     }
 
-    /// The names of results that were not taken before.
+    /// The names of the results, which are then gone.
     QStringList takeNames()
     {
         QStringList names;
-        const QList<QStandardItem*> results = worker.getResults();
-        if (results == former) {
-            return names;
-        }
-        former = results;
+        const QList<QStandardItem*> results = worker.takeResults();
         for (const QStandardItem* item : results) {
             names.append(item->toolTip());
         }
@@ -86,7 +85,6 @@ struct Subject
 
     SymbolDatabaseWorker worker;
     QThread thread;
-    QList<QStandardItem*> former;
 };
 
 /// Counts, instead of showing, what goes to the library's log while it lives.
@@ -260,14 +258,65 @@ void TestSymbolDatabaseWorker::aSearchReplacesTheResults()
     QCOMPARE(subject.takeNames(), words("up danger cat"));
 }
 
+void TestSymbolDatabaseWorker::resultsThatAreTakenAreForgotten()
+{
+    const SymbolDatabase database(SymbolDatabase::Symbols);
+    SymbolDatabaseWorker worker;
+    worker.getStartupItems(database.path());
+    const QList<QStandardItem*> results = worker.getResults();
+    QCOMPARE(results.count(), 3);
+    QCOMPARE(worker.takeResults(), results);
+    QCOMPARE(worker.takeResults().count(), 0);
+    QCOMPARE(worker.getResults().count(), 0);
+    worker.getItemsBySearch(QStringLiteral("Animals"));
+    QCOMPARE(results.constFirst()->toolTip(), QStringLiteral("up")); // not the worker's any more
+    qDeleteAll(results);
+}
+
+void TestSymbolDatabaseWorker::resultsThatNobodyTookDieWithTheWorker()
+{
+    const SymbolDatabase database(SymbolDatabase::Symbols);
+    QStandardItemModel model; // notices when its items die
+    {
+        SymbolDatabaseWorker worker;
+        worker.getStartupItems(database.path());
+        worker.getItemsBySearch(QStringLiteral("Animals"));
+        model.appendRow(worker.getResults());
+        worker.getItemsBySearch(QString());
+    } // three results that nobody took: AddressSanitizer tells
+    QCOMPARE(model.item(0)->toolTip(), QStringLiteral("cat"));
+}
+
+void TestSymbolDatabaseWorker::aThreadThatIsToEndCutsTheSearchShort()
+{
+    const LogCounter log;
+    const SymbolDatabase database(SymbolDatabase::Symbols);
+    Subject subject;
+    subject.startThread();
+    SymbolDatabaseWorker* worker = &subject.worker;
+    QMetaObject::invokeMethod(
+        worker, [&] { worker->getStartupItemsAndCreate(database.path()); },
+        Qt::BlockingQueuedConnection);
+    subject.takeNames();
+    int ready = 0;
+    connect(worker, &SymbolDatabaseWorker::resultReady, this, [&] { ++ready; });
+    subject.thread.requestInterruption();
+    QMetaObject::invokeMethod(worker, [worker] { worker->getItemsBySearch(QString()); });
+    QTRY_COMPARE(ready, 1);
+    QCOMPARE(subject.takeNames(), QStringList());
+    QCOMPARE(log.count(), 0);
+}
+
 void TestSymbolDatabaseWorker::resultsCarryThumbnailsAndNoIcons()
 {
     const SymbolDatabase database(SymbolDatabase::Symbols);
     Subject subject;
     subject.worker.getStartupItems(database.path());
-    const QList<QStandardItem*> results = subject.worker.getResults();
-    QCOMPARE(results.count(), 3);
-    for (const QStandardItem* item : results) {
+    QStandardItemModel model;
+    model.appendColumn(subject.worker.getResults());
+    QCOMPARE(model.rowCount(), 3);
+    for (int row = 0; row < model.rowCount(); ++row) {
+        const QStandardItem* item = model.item(row);
         QVERIFY(item->data(Qt::UserRole + 2).toByteArray().startsWith("\x89PNG"));
         QVERIFY(!item->data(Qt::DecorationRole).isValid());
     }

@@ -5,9 +5,15 @@
 
 #include "support/test.h"
 
+#include <QBuffer>
 #include <QDataStream>
 #include <QIcon>
+#include <QPixmapCache>
 #include <QSignalSpy>
+#include <QStandardItemModel>
+
+#include <memory>
+#include <vector>
 
 class TestSymbolItem : public Test
 {
@@ -15,7 +21,14 @@ class TestSymbolItem : public Test
 
 private Q_SLOTS:
     void showsItsValuesUnderTheirRoles();
-    void anItemWithAnIconHasNoThumbnail();
+    void anItemShownAsIconHasNoBytes();
+    void anAddedIconLeavesTheBytes();
+    void anIconThatTheCacheHasForgottenIsMadeAgain();
+    void theCacheBoundsTheMemoryOfIcons();
+    void aThumbnailThatDoesNotDecodeIsANullIcon();
+    void anIconThatIsSetReplacesTheThumbnails();
+    void flagsAreThoseOfAPlainItem();
+    void symbolsAreAppendedAtOnceWithTheirIcons();
     void otherRolesAreThoseOfAPlainItem();
     void settingOneValueKeepsTheOthersAndIsReported();
     void aCloneHasTheSameValues();
@@ -33,6 +46,23 @@ bool isCat(const QStandardItem& item)
         && item.data(ThumbnailRole) == QByteArray("png");
 }
 
+QByteArray png(const QColor& colour)
+{
+    QImage image(50, 50, QImage::Format_RGB32);
+    image.fill(colour);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+/// Of the icon, in the size of a thumbnail.
+QColor colourOf(const QStandardItem& item)
+{
+    return item.icon().pixmap(50, 50).toImage().pixelColor(25, 25);
+}
+
 } // namespace
 
 void TestSymbolItem::showsItsValuesUnderTheirRoles()
@@ -45,13 +75,105 @@ void TestSymbolItem::showsItsValuesUnderTheirRoles()
     QVERIFY(!item.data(Qt::DecorationRole).isValid());
 }
 
-void TestSymbolItem::anItemWithAnIconHasNoThumbnail()
+void TestSymbolItem::anItemShownAsIconHasNoBytes()
 {
-    SymbolItem item(QStringLiteral("cat"), 7, QIcon());
-    QVERIFY(item.data(Qt::DecorationRole).isValid());
+    SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    QCOMPARE(colourOf(item), QColor(Qt::red));
     QVERIFY(!item.data(ThumbnailRole).isValid());
     item.setToolTip(QStringLiteral("dog"));
+    QCOMPARE(colourOf(item), QColor(Qt::red));
     QVERIFY(!item.data(ThumbnailRole).isValid());
+    QCOMPARE(item.data(IdRole), QVariant(7));
+}
+
+void TestSymbolItem::anAddedIconLeavesTheBytes()
+{
+    SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red));
+    QVERIFY(!item.data(Qt::DecorationRole).isValid());
+    item.addIcon();
+    QCOMPARE(colourOf(item), QColor(Qt::red));
+    QCOMPARE(item.data(ThumbnailRole), QVariant(png(Qt::red)));
+
+    SymbolItem plain(QStringLiteral("cat"), 7, QByteArray());
+    plain.setData(png(Qt::blue), ThumbnailRole);
+    plain.addIcon();
+    QCOMPARE(colourOf(plain), QColor(Qt::blue));
+}
+
+void TestSymbolItem::anIconThatTheCacheHasForgottenIsMadeAgain()
+{
+    const SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    QCOMPARE(colourOf(item), QColor(Qt::red));
+    const qint64 first = item.icon().pixmap(50, 50).cacheKey();
+    QCOMPARE(item.icon().pixmap(50, 50).cacheKey(), first);
+    QPixmapCache::clear();
+    QCOMPARE(colourOf(item), QColor(Qt::red));
+    QVERIFY(item.icon().pixmap(50, 50).cacheKey() != first);
+}
+
+void TestSymbolItem::theCacheBoundsTheMemoryOfIcons()
+{
+    const int limit = QPixmapCache::cacheLimit();
+    QPixmapCache::setCacheLimit(100); // kB: ten thumbnails of 10 kB
+    std::vector<std::unique_ptr<SymbolItem>> items;
+    for (int id = 0; id < 50; ++id) {
+        items.push_back(std::make_unique<SymbolItem>(QStringLiteral("cat"), id,
+                                                     png(QColor(id, 0, 0)), SymbolItem::Icon));
+        QCOMPARE(colourOf(*items.back()), QColor(id, 0, 0));
+    }
+    for (int id = 0; id < 50; ++id) {
+        QCOMPARE(colourOf(*items[std::size_t(id)]), QColor(id, 0, 0));
+    }
+    QPixmapCache::setCacheLimit(limit);
+}
+
+void TestSymbolItem::aThumbnailThatDoesNotDecodeIsANullIcon()
+{
+    const SymbolItem item(QStringLiteral("cat"), 7, QByteArray("no picture"), SymbolItem::Icon);
+    QVERIFY(item.data(Qt::DecorationRole).isValid());
+    QVERIFY(item.icon().isNull());
+}
+
+void TestSymbolItem::anIconThatIsSetReplacesTheThumbnails()
+{
+    SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    QPixmap blue(50, 50);
+    blue.fill(Qt::blue);
+    item.setIcon(blue);
+    QCOMPARE(colourOf(item), QColor(Qt::blue));
+    QCOMPARE(item.toolTip(), QStringLiteral("cat"));
+}
+
+void TestSymbolItem::flagsAreThoseOfAPlainItem()
+{
+    SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    QCOMPARE(item.flags(), QStandardItem().flags());
+    item.setEditable(false);
+    QVERIFY(!item.isEditable());
+    QVERIFY(item.isSelectable());
+    item.setToolTip(QStringLiteral("dog"));
+    QVERIFY(!item.isEditable());
+    item.setEditable(true);
+    QCOMPARE(item.flags(), QStandardItem().flags());
+}
+
+void TestSymbolItem::symbolsAreAppendedAtOnceWithTheirIcons()
+{
+    QStandardItemModel model;
+    QSignalSpy inserted(&model, &QStandardItemModel::rowsInserted);
+    appendSymbols(model, {});
+    QCOMPARE(model.rowCount(), 0);
+    appendSymbols(model,
+                  { new SymbolItem(QStringLiteral("cat"), 7, png(Qt::red)),
+                    new SymbolItem(QStringLiteral("dog"), 8, png(Qt::blue), SymbolItem::Icon) });
+    QCOMPARE(inserted.count(), 1);
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.columnCount(), 1);
+    QCOMPARE(colourOf(*model.item(0)), QColor(Qt::red));
+    QCOMPARE(colourOf(*model.item(1)), QColor(Qt::blue));
+    QCOMPARE(model.item(0)->data(ThumbnailRole), QVariant(png(Qt::red)));
+    QVERIFY(!model.item(1)->data(ThumbnailRole).isValid());
+    QVERIFY(!model.item(0)->isEditable() && !model.item(1)->isEditable());
 }
 
 void TestSymbolItem::otherRolesAreThoseOfAPlainItem()
@@ -104,6 +226,16 @@ void TestSymbolItem::survivesAStream()
     SymbolItem item(QStringLiteral("dog"), 8, QByteArray());
     again >> item;
     QVERIFY(isCat(item));
+
+    QByteArray withIcon;
+    {
+        QDataStream out(&withIcon, QIODevice::WriteOnly);
+        out << SymbolItem(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    }
+    QDataStream last(withIcon);
+    last >> plain;
+    QCOMPARE(colourOf(plain), QColor(Qt::red));
+    QVERIFY(!plain.data(ThumbnailRole).isValid());
 }
 
 UW_TEST_MAIN(TestSymbolItem)

@@ -17,6 +17,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QThread>
 #include <QUuid>
 
 #include <algorithm>
@@ -44,6 +45,12 @@ QIcon toIcon(const QByteArray& thumbnail)
     QPixmap pixmap;
     pixmap.loadFromData(thumbnail);
     return QIcon(pixmap);
+}
+
+/// Whether the owner of this thread wants it to end.
+bool isInterrupted()
+{
+    return QThread::currentThread()->isInterruptionRequested();
 }
 
 /// A public operation: the database is open for as long as this lives, or could not be opened.
@@ -170,6 +177,9 @@ QSqlQuery SymbolDatabaseModel::Private::prepare(const QString& statement, Values
 
 bool SymbolDatabaseModel::Private::execute(QSqlQuery& query) const
 {
+    if (isInterrupted()) {
+        return false;
+    }
     // If it could not be prepared, that error tells more than the one of executing it nevertheless.
     const QSqlError preparation = query.lastError();
     if (query.exec()) {
@@ -736,13 +746,12 @@ QList<QStandardItem*> SymbolDatabaseModel::getItemsFromPreparedQuery(QSqlQuery q
     if (!d->execute(query)) {
         return items;
     }
-    while (query.next()) {
+    while (!isInterrupted() && query.next()) {
         const int id = query.value(0).toInt();
         QString name = query.value(1).toString();
         QByteArray thumbnail = query.value(2).toByteArray();
-        QStandardItem* item = buildPixmap
-            ? new SymbolItem(std::move(name), id, toIcon(thumbnail))
-            : new SymbolItem(std::move(name), id, std::move(thumbnail));
+        auto* item = new SymbolItem(std::move(name), id, std::move(thumbnail),
+                                    buildPixmap ? SymbolItem::Icon : SymbolItem::Bytes);
         Q_EMIT symbolReady(item);
         items.append(item);
     }

@@ -42,7 +42,9 @@ class QStandardItem;
  *
  * Nothing throws. An operation that fails emits errorOccured() and returns false, -1, or something
  * empty. One model belongs to one thread at a time and must not be destroyed during an operation.
- * Ids are never reused; -1 is none. Those who call the functions that take or return classes of Qt
+ * Ids are never reused; -1 is none. On a thread whose interruption has been requested (see
+ * QThread::requestInterruption()) every statement fails without a message, and a search that is
+ * under way ends with what it has found so far. Those who call the functions that take or return classes of Qt
  * SQL link that module themselves.
  */
 class UTILITYWIDGETS_EXPORT SymbolDatabaseModel : public QObject

@@ -11,12 +11,23 @@
 
 SymbolDatabaseWorker::SymbolDatabaseWorker() = default;
 
-SymbolDatabaseWorker::~SymbolDatabaseWorker() = default;
+SymbolDatabaseWorker::~SymbolDatabaseWorker()
+{
+    dropResults();
+}
 
 QList<QStandardItem*> SymbolDatabaseWorker::getResults()
 {
     const QMutexLocker lock(&m_mutex);
+    m_ownsResults = false;
     return m_results;
+}
+
+QList<QStandardItem*> SymbolDatabaseWorker::takeResults()
+{
+    const QMutexLocker lock(&m_mutex);
+    m_ownsResults = false;
+    return std::exchange(m_results, {});
 }
 
 bool SymbolDatabaseWorker::getSuccessLoad()
@@ -136,7 +147,17 @@ bool SymbolDatabaseWorker::makeDatabase()
 
 void SymbolDatabaseWorker::search(const QString& category)
 {
+    dropResults();
     m_results = model().getItemsBySearch(category, QString(), false);
+    m_ownsResults = true;
+}
+
+void SymbolDatabaseWorker::dropResults()
+{
+    if (m_ownsResults) {
+        qDeleteAll(m_results);
+    }
+    m_results.clear();
 }
 
 #include "moc_symboldatabaseworker.cpp"

@@ -45,12 +45,15 @@ class UTILITYWIDGETS_EXPORT SymbolDatabaseWorker : public QObject
 
 public:
     SymbolDatabaseWorker();
-    /// The items of the last search stay with whoever took them.
+    /// The items of the last search stay with whoever took them, and die with the worker if nobody
+    /// did.
     ~SymbolDatabaseWorker() override;
 
     /// The items of the last search, which then belong to the caller. The worker does not know
     /// whether they still exist: take them once per resultReady() or startupReady().
     QList<QStandardItem*> getResults();
+    /// The same, except that the worker forgets them: until the next search there are none.
+    QList<QStandardItem*> takeResults();
     /// False once a new database could not be made.
     bool getSuccessLoad();
     /// Whether the last addSymbol() stored its symbol; false before.
@@ -88,11 +91,14 @@ private:
     SymbolDatabaseModel& model();
     bool makeDatabase();
     void search(const QString& category);
+    void dropResults();
 
     // Not started: the worker lives on a thread of its owner's.
     QThread m_thread;
     std::unique_ptr<SymbolDatabaseModel> m_model;
     QList<QStandardItem*> m_results;
+    /// Whether nobody has taken them: then they are the worker's.
+    bool m_ownsResults = false;
     bool m_successLoad = true;
     bool m_successAdd = false;
     /// Protects all of the above, the model's connection above all: it has one name, whichever

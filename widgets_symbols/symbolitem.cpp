@@ -3,25 +3,36 @@
 
 #include "symbolitem.h"
 
+#include <QIcon>
+#include <QPixmap>
+#include <QStandardItemModel>
+
 namespace {
 
 constexpr int IdRole = Qt::UserRole + 1;
 constexpr int ThumbnailRole = Qt::UserRole + 2;
+/// Where QStandardItem keeps its flags.
+constexpr int FlagsRole = Qt::UserRole - 1;
 
 } // namespace
 
-SymbolItem::SymbolItem(QString name, int id, QByteArray thumbnail)
+SymbolItem::SymbolItem(QString name, int id, QByteArray thumbnail, Picture picture)
     : m_name(std::move(name))
     , m_thumbnail(std::move(thumbnail))
     , m_id(id)
+    , m_picture(picture)
 { }
 
-SymbolItem::SymbolItem(QString name, int id, const QIcon& icon)
-    : m_name(std::move(name))
-    , m_id(id)
-    , m_hasIcon(true)
+void SymbolItem::addIcon()
 {
-    QStandardItem::setData(icon, Qt::DecorationRole);
+    if (m_isPlain) {
+        QPixmap pixmap;
+        pixmap.loadFromData(data(ThumbnailRole).toByteArray());
+        QStandardItem::setData(QIcon(pixmap), Qt::DecorationRole);
+        return;
+    }
+    m_picture = BytesAndIcon;
+    emitDataChanged();
 }
 
 QVariant SymbolItem::data(int role) const
@@ -30,10 +41,14 @@ QVariant SymbolItem::data(int role) const
         switch (role) {
         case Qt::ToolTipRole:
             return m_name;
+        case Qt::DecorationRole:
+            return m_picture == Bytes ? QStandardItem::data(role) : makeIcon();
         case IdRole:
             return m_id;
         case ThumbnailRole:
-            return m_hasIcon ? QVariant() : m_thumbnail;
+            return m_picture == Icon ? QVariant() : m_thumbnail;
+        case FlagsRole:
+            return m_flags == -1 ? QVariant() : m_flags;
         default:
             break;
         }
@@ -43,7 +58,13 @@ QVariant SymbolItem::data(int role) const
 
 void SymbolItem::setData(const QVariant& value, int role)
 {
-    if (role == Qt::ToolTipRole || role == IdRole || role == ThumbnailRole) {
+    if (role == FlagsRole && !m_isPlain) {
+        m_flags = value.toInt();
+        emitDataChanged();
+        return;
+    }
+    if (role == Qt::ToolTipRole || role == Qt::DecorationRole || role == IdRole
+        || role == ThumbnailRole) {
         becomePlain();
     }
     QStandardItem::setData(value, role);
@@ -67,6 +88,17 @@ void SymbolItem::write(QDataStream& out) const
     plain.QStandardItem::write(out);
 }
 
+/// The cache forgets what has not been asked for longest, so that a library that was scrolled
+/// through from end to end is not in memory as pixels.
+QIcon SymbolItem::makeIcon() const
+{
+    QPixmap pixmap;
+    if (!QPixmapCache::find(m_pixmap, &pixmap) && pixmap.loadFromData(m_thumbnail)) {
+        m_pixmap = QPixmapCache::insert(pixmap);
+    }
+    return QIcon(pixmap);
+}
+
 void SymbolItem::becomePlain()
 {
     if (m_isPlain) {
@@ -75,7 +107,27 @@ void SymbolItem::becomePlain()
     m_isPlain = true;
     QStandardItem::setData(m_name, Qt::ToolTipRole);
     QStandardItem::setData(m_id, IdRole);
-    if (!m_hasIcon) {
+    if (m_picture != Icon) {
         QStandardItem::setData(m_thumbnail, ThumbnailRole);
+    }
+    if (m_picture != Bytes) {
+        QStandardItem::setData(makeIcon(), Qt::DecorationRole);
+    }
+    if (m_flags != -1) {
+        QStandardItem::setData(m_flags, FlagsRole);
+    }
+}
+
+void appendSymbols(QStandardItemModel& model, const QList<QStandardItem*>& items)
+{
+    for (QStandardItem* item : items) {
+        item->setEditable(false);
+        auto* symbol = dynamic_cast<SymbolItem*>(item);
+        if (symbol != nullptr && symbol->data(ThumbnailRole).isValid()) {
+            symbol->addIcon();
+        }
+    }
+    if (!items.isEmpty()) {
+        model.invisibleRootItem()->appendRows(items);
     }
 }

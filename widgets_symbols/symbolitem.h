@@ -3,21 +3,33 @@
 
 #pragma once
 
+#include <QPixmapCache>
 #include <QStandardItem>
+
+class QStandardItemModel;
 
 /*!
  * One result of a search: name, id and thumbnail of a symbol.
  *
  * To everybody outside it is a QStandardItem with the name under Qt::ToolTipRole, the id under
- * Qt::UserRole + 1 and, unless it has an icon, the thumbnail's PNG bytes under Qt::UserRole + 2.
- * They are kept as members, because a plain item's list of roles costs half of the time of a search
- * in a large library. As soon as one of them is set, the item becomes such a plain one.
+ * Qt::UserRole + 1 and the thumbnail as PNG bytes under Qt::UserRole + 2, as icon under
+ * Qt::DecorationRole, or both. They are kept as members, because a plain item's list of roles costs
+ * half of the time of a search in a large library. As soon as one of them is set, the item becomes
+ * such a plain one.
+ *
+ * The icon is made when it is asked for, and again when nobody has asked for a while: a large
+ * library's icons together would take seconds to decode and ten times the memory of their bytes.
+ * Ask for it on the GUI thread only.
  */
 class SymbolItem : public QStandardItem
 {
 public:
-    SymbolItem(QString name, int id, QByteArray thumbnail);
-    SymbolItem(QString name, int id, const QIcon& icon);
+    enum Picture { Bytes, Icon, BytesAndIcon };
+
+    SymbolItem(QString name, int id, QByteArray thumbnail, Picture picture = Bytes);
+
+    /// Shows the thumbnail, whatever it was shown as before, as bytes and as icon.
+    void addIcon();
 
     QVariant data(int role = Qt::UserRole + 1) const override;
     void setData(const QVariant& value, int role = Qt::UserRole + 1) override;
@@ -28,11 +40,18 @@ public:
 private:
     SymbolItem(const SymbolItem& other) = default;
 
+    QIcon makeIcon() const;
     void becomePlain();
 
     QString m_name;
     QByteArray m_thumbnail;
+    mutable QPixmapCache::Key m_pixmap;
     int m_id;
-    bool m_hasIcon = false;
+    int m_flags = -1; // the defaults
+    Picture m_picture;
     bool m_isPlain = false;
 };
+
+/// Appends results of a search to `model`, which then owns them, all at once: as rows that cannot be
+/// edited and, where they have none yet, with an icon made of the thumbnail.
+void appendSymbols(QStandardItemModel& model, const QList<QStandardItem*>& items);

@@ -3,10 +3,19 @@
 
 #include "pages/families.h"
 
+#include "lockwidget.h"
+#include "oxmessagebox.h"
 #include "stage.h"
 #include "symboldatabasemodel.h"
+#include "symboldatabasewidget.h"
 #include "symboldatabaseworker.h"
+#include "symbolslineedit.h"
+#include "symbolsmenu.h"
 
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
 #include <QListView>
 #include <QPixmap>
 #include <QStandardItemModel>
@@ -161,6 +170,75 @@ void showSymbolDatabaseWorker(Stage& stage)
     }
 }
 
+/// Runs the browser on the library of these pages, in place of the device's.
+void openBrowser(bool insert)
+{
+    QObject owner;
+    const QString path = makeLibrary(&owner)->databasePath();
+    //! [SymbolDatabaseWidget]
+    SymbolDatabaseWidget browser;
+    browser.setInsertMode(insert);
+    //! [SymbolDatabaseWidget]
+    Q_EMIT browser.startSymbolManager(path);
+    browser.getLockWidget()->setReadOnlyState(true);
+    // A page shows it filled; an application does not wait.
+    QEventLoop reading;
+    QObject::connect(browser.findChild<QListView*>()->model(), &QAbstractItemModel::rowsInserted,
+                     &reading, &QEventLoop::quit);
+    reading.exec();
+    //! [SymbolDatabaseWidget]
+    if (browser.exec() == QDialog::Accepted) {
+        const QByteArray svg = browser.getSelectedSymbol();
+        //! [SymbolDatabaseWidget]
+        OxMessageBox::information(QApplication::activeWindow(), QStringLiteral("SYMBOL"),
+                                  QString::number(svg.size()) + QStringLiteral(" bytes of SVG"));
+        //! [SymbolDatabaseWidget]
+    }
+    //! [SymbolDatabaseWidget]
+}
+
+void showSymbolsLineEdit(Stage& stage)
+{
+    stage.addStates(
+        [](const QString& text) {
+            //! [SymbolsLineEdit]
+            auto* field = new SymbolsLineEdit;
+            field->setText(text);
+            //! [SymbolsLineEdit]
+            return field;
+        },
+        QStringLiteral("arrow"));
+}
+
+/// A menu on the library of these pages: it looks for its library where the process works.
+SymbolsMenu* createMenu(const QString& folder, const QStringList& names)
+{
+    const QString former = QDir::currentPath();
+    QDir::setCurrent(folder);
+    //! [SymbolsMenu]
+    auto* menu = new SymbolsMenu(names);
+    //! [SymbolsMenu]
+    QDir::setCurrent(former);
+    return menu;
+}
+
+void showSymbolsMenu(Stage& stage)
+{
+    auto* owner = new QWidget;
+    const QString folder = QFileInfo(makeLibrary(owner)->databasePath()).path();
+    const auto create = [&](const QStringList& names) {
+        return createMenu(folder, names);
+    };
+    SymbolsMenu* menu = create({});
+    owner->setParent(menu);
+    owner->hide();
+    stage.add(QStringLiteral("Categories of the library"), menu);
+    SymbolsMenu* disabled = create({});
+    disabled->setEnabled(false);
+    stage.add(QStringLiteral("Disabled"), disabled);
+    stage.add(QStringLiteral("A first category with a very long name"), create({ longText() }));
+}
+
 } // namespace
 
 Family symbolsFamily()
@@ -179,6 +257,33 @@ Family symbolsFamily()
                 QStringLiteral("SymbolDatabaseWorker"),
                 QStringLiteral("Searches and changes a library of symbols on another thread."),
                 showSymbolDatabaseWorker,
+                {},
+            },
+            {
+                QStringLiteral("SymbolDatabaseWidget"),
+                QStringLiteral("The dialog in which a person picks a symbol from a library."),
+                {},
+                {
+                    { QStringLiteral("insert"), QStringLiteral("Insert a symbol"),
+                      [] {
+                          openBrowser(true);
+                      } },
+                    { QStringLiteral("edit"), QStringLiteral("Replace a symbol"),
+                      [] {
+                          openBrowser(false);
+                      } },
+                },
+            },
+            {
+                QStringLiteral("SymbolsMenu"),
+                QStringLiteral("A small picker of symbols, by category and by tag."),
+                showSymbolsMenu,
+                {},
+            },
+            {
+                QStringLiteral("SymbolsLineEdit"),
+                QStringLiteral("A search field whose magnifier stands for the Return key."),
+                showSymbolsLineEdit,
                 {},
             },
         },

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "symbolsmenu.h"
+
+#include "clickablecombobox.h"
+#include "dragscrolllistview.h"
+#include "look/icons.h"
+#include "look/images.h"
+#include "look/sheets.h"
+#include "symboldatabasemodel.h"
+#include "symbolitem.h"
+#include "symbolslineedit.h"
+#include "symbolview.h"
+
+#include <QCompleter>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int IdRole = Qt::UserRole + 1;
+constexpr QSize GridSize(50, 50);
+constexpr int ListWidth = 160; // pixels
+constexpr int ListHeight = 210; // pixels
+/// What a finger hits.
+constexpr int SuggestionHeight = 35; // pixels
+
+/// The rows of suggestions, as high as those of a combo box.
+class SuggestionDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index).expandedTo(QSize(0, SuggestionHeight));
+    }
+};
+
+/// Suggestions that scroll and are tapped like all lists of the house. A finger that goes down on one
+/// does not select it, because the field shows what is selected here: that is for the arrow keys.
+class SuggestionList : public DragScrollListView
+{
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override
+    {
+        return dynamic_cast<const QMouseEvent*>(event) != nullptr
+            ? QItemSelectionModel::NoUpdate
+            : DragScrollListView::selectionCommand(index, event);
+    }
+};
+
+} // namespace
+
+SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("SymbolsMenu"));
+    m_itemModel = new QStandardItemModel(this);
+    m_model = new SymbolDatabaseModel(this);
+    // Deliberately without a folder, unlike the browser's.
+    m_model->setDatabasePath(QStringLiteral("symbols.db"));
+    createSearchField();
+    createCategoryBox(categoryNames);
+    createSymbolList();
+
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(m_categoryBox);
+    layout->addWidget(m_searchField);
+    layout->addWidget(m_symbolList);
+    setLayout(layout);
+    m_categoryBox->setCurrentIndex(0);
+    categoryUpdate(m_categoryBox->itemText(0));
+
+    connect(m_symbolList, &QListView::clicked, this, &SymbolsMenu::symbolSelection);
+    connect(m_searchField, &QLineEdit::returnPressed, this, &SymbolsMenu::searchUpdate);
+    // Not currentTextChanged(): of an editable combo box, that one comes while typing, too.
+    connect(m_categoryBox, &QComboBox::currentIndexChanged, this,
+            [this](int index) { categoryUpdate(m_categoryBox->itemText(index)); });
+}
+
+SymbolsMenu::SymbolsMenu(QWidget* parent)
+    : SymbolsMenu(QList<QString>(), parent)
+{ }
+
+void SymbolsMenu::addSymbol(QStandardItem* item)
+{
+    item->setEditable(false);
+    m_itemModel->appendRow(item);
+}
+
+void SymbolsMenu::symbolSelection(const QModelIndex& index)
+{
+    const QByteArray symbolData = m_model->getDataFromSymbolId(index.data(IdRole).toInt());
+    if (!symbolData.isEmpty()) {
+        Q_EMIT symbolSignal(symbolData);
+    }
+}
+
+void SymbolsMenu::searchUpdate()
+{
+    categoryUpdate(m_categoryBox->currentText());
+}
+
+void SymbolsMenu::categoryUpdate(const QString& category)
+{
+    m_itemModel->clear();
+    appendSymbols(*m_itemModel, m_model->getItemsBySearch(category, m_searchField->text(), true));
+}
+
+void SymbolsMenu::createSearchField()
+{
+    m_searchField = new SymbolsLineEdit(this);
+    m_searchField->setWindowIcon(Look::icon(QStringLiteral(LOOK_IMAGE_SEARCH_WINDOW)));
+
+    auto* completer = new QCompleter(m_model->tags(), m_searchField);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    auto* suggestions = new SuggestionList;
+    completer->setPopup(suggestions);
+    suggestions->setItemDelegate(new SuggestionDelegate(suggestions));
+    m_searchField->setCompleter(completer);
+    // A finger has no Return key at hand: a suggestion that is picked is what it searches for.
+    connect(completer, qOverload<const QString&>(&QCompleter::activated), this,
+            [this](const QString& tag) {
+                m_searchField->setText(tag);
+                searchUpdate();
+            });
+}
+
+void SymbolsMenu::createCategoryBox(const QList<QString>& categoryNames)
+{
+    m_categoryBox = new ClickableComboBox(this);
+    m_categoryBox->setStyleSheet(Look::whiteComboBox());
+    // A long name must not make the menu a wide one.
+    m_categoryBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_categoryBox->addItems(categoryNames);
+    m_categoryBox->addItems(m_model->categories());
+    m_categoryBox->addItem(tr("All Categories", "Categories header for showing all symbols."));
+}
+
+void SymbolsMenu::createSymbolList()
+{
+    m_symbolList = new DragScrollListView(this);
+    m_symbolList->setMaximumWidth(ListWidth);
+    m_symbolList->setFixedHeight(ListHeight);
+    prepareSymbolView(m_symbolList, GridSize);
+    m_symbolList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_symbolList->setModel(m_itemModel);
+}
+
+#include "moc_symbolsmenu.cpp"
