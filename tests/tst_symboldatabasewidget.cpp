@@ -59,6 +59,7 @@ private Q_SLOTS:
     void categoryButtonsLookAsStated();
     void underscoresAreShownAsBlanks();
     void categoriesStandTogetherAtTheTop();
+    void categoriesAreNeverSeenSquashed();
     void aLongCategoryIsBrokenIntoLines();
     void anAmpersandIsPartOfTheName();
     void userSymbolsHaveAButtonOnlyWhenThereAreAny_data();
@@ -330,6 +331,44 @@ public:
         return QStandardItem::data(role);
     }
 };
+
+/// Notes the smallest height in which a widget of this name is ever painted, and how many are.
+class SmallestPaint : public QObject
+{
+public:
+    explicit SmallestPaint(const QString& name)
+    {
+        setObjectName(name);
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    int height = 10000;
+    int painted = 0;
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && object->objectName() == objectName()) {
+            const auto* widget = static_cast<QWidget*>(object);
+            height = std::min(height, widget->height());
+            m_seen.insert(object);
+            painted = int(m_seen.count());
+        }
+        return false;
+    }
+
+private:
+    QSet<QObject*> m_seen;
+};
+
+/// More than the column shows.
+QStringList manyCategories()
+{
+    QStringList symbols;
+    for (int i = 10; i < 40; ++i) {
+        symbols += QStringLiteral("Category_%1/x%1").arg(i);
+    }
+    return symbols;
+}
 
 const QStringList UsualNames = words("cat.svg down.svg stop.svg up.svg");
 
@@ -625,6 +664,17 @@ void TestSymbolDatabaseWidget::categoriesStandTogetherAtTheTop()
     }
 }
 
+void TestSymbolDatabaseWidget::categoriesAreNeverSeenSquashed()
+{
+    makeLibrary(manyCategories());
+    const Browser browser;
+    QVERIFY(browser.show());
+    const SmallestPaint watch(QStringLiteral("DragScrollButton"));
+    QVERIFY(browser.isReady());
+    QTRY_COMPARE(watch.painted, 11); // those that are in sight
+    QCOMPARE(watch.height, 38);
+}
+
 void TestSymbolDatabaseWidget::aLongCategoryIsBrokenIntoLines()
 {
     makeLibrary({ QStringLiteral("Arrows/up"),
@@ -910,11 +960,7 @@ void TestSymbolDatabaseWidget::noSymbolOutOfSightIsAskedForItsIcon()
 
 void TestSymbolDatabaseWidget::draggingACategoryScrollsAndChoosesNothing()
 {
-    QStringList symbols;
-    for (int i = 10; i < 40; ++i) {
-        symbols += QStringLiteral("Category_%1/x%1").arg(i);
-    }
-    makeLibrary(symbols);
+    makeLibrary(manyCategories());
     const Browser browser;
     QVERIFY(browser.isReady());
     QVERIFY(browser.show());

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void theSearchFieldHasItsWindowIcon();
     void everyTextIsTranslatedWithItsComment();
     void canBeMadeWithAParentAlone();
+    void aLongNameShowsItsBeginningAndDoesNotWidenTheMenu();
 
     void offersTheGivenNamesThenTheCategoriesThenAll();
     void startsWithTheFirstEntry();
@@ -257,6 +258,16 @@ void TestSymbolsMenu::canBeMadeWithAParentAlone()
     const SymbolsMenu menu(&parent);
     QCOMPARE(menu.parentWidget(), &parent);
     QCOMPARE(menu.findChild<ClickableComboBox*>()->count(), subject.categories->count());
+}
+
+void TestSymbolsMenu::aLongNameShowsItsBeginningAndDoesNotWidenTheMenu()
+{
+    const Subject usual;
+    const Subject subject({ QString(100, QLatin1Char('W')), QString(90, QLatin1Char('W')) });
+    QCOMPARE(subject.menu->sizeHint(), usual.menu->sizeHint());
+    QCOMPARE(subject.categories->lineEdit()->cursorPosition(), 0);
+    subject.categories->setCurrentIndex(1);
+    QCOMPARE(subject.categories->lineEdit()->cursorPosition(), 0);
 }
 
 void TestSymbolsMenu::offersTheGivenNamesThenTheCategoriesThenAll()

@@ -75,13 +75,12 @@ SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, QWidget* parent)
     layout->addWidget(m_symbolList);
     setLayout(layout);
     m_categoryBox->setCurrentIndex(0);
-    categoryUpdate(m_categoryBox->itemText(0));
+    chooseCategory(0);
 
     connect(m_symbolList, &QListView::clicked, this, &SymbolsMenu::symbolSelection);
     connect(m_searchField, &QLineEdit::returnPressed, this, &SymbolsMenu::searchUpdate);
     // Not currentTextChanged(): of an editable combo box, that one comes while typing, too.
-    connect(m_categoryBox, &QComboBox::currentIndexChanged, this,
-            [this](int index) { categoryUpdate(m_categoryBox->itemText(index)); });
+    connect(m_categoryBox, &QComboBox::currentIndexChanged, this, &SymbolsMenu::chooseCategory);
 }
 
 SymbolsMenu::SymbolsMenu(QWidget* parent)
@@ -111,6 +110,13 @@ void SymbolsMenu::categoryUpdate(const QString& category)
 {
     m_itemModel->clear();
     appendSymbols(*m_itemModel, m_model->getItemsBySearch(category, m_searchField->text(), true));
+}
+
+void SymbolsMenu::chooseCategory(int index)
+{
+    // A name that is too long for the box shows its beginning.
+    m_categoryBox->lineEdit()->setCursorPosition(0);
+    categoryUpdate(m_categoryBox->itemText(index));
 }
 
 void SymbolsMenu::createSearchField()

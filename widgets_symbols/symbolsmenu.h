@@ -62,6 +62,7 @@ Q_SIGNALS:
     void symbolSignal(QByteArray symbolData);
 
 private:
+    void chooseCategory(int index);
     void createSearchField();
     void createCategoryBox(const QList<QString>& categoryNames);
     void createSymbolList();

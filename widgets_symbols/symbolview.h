@@ -7,5 +7,5 @@ class QListView;
 class QSize;
 
 /// Makes `view` a grid of symbols, `grid` pixels each, that stay where they are. A selected one is
-/// tinted in the house's colour.
+/// framed in the house's colour.
 void prepareSymbolView(QListView* view, const QSize& grid);
