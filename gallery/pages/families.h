@@ -18,6 +18,7 @@ Family lookFamily();
 Family panelsFamily();
 Family platformFamily();
 Family scrollingFamily();
+Family selectionFamily();
 Family symbolsFamily();
 Family touchHelpersFamily();
 
