@@ -227,6 +227,7 @@ QPushButton* createButton(const QString& text, const QString& accessibleName)
 {
     auto* button = new QPushButton(text);
     button->setFixedSize(ButtonSize, ButtonSize);
+    button->setAutoDefault(false); // in a dialog, Enter must not move anything
     button->setAccessibleName(accessibleName);
     return button;
 }

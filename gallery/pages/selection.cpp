@@ -4,9 +4,11 @@
 #include "pages/families.h"
 
 #include "dragscrolllistview.h"
+#include "multiitemselectiondialog.h"
 #include "multiitemselectionwidget.h"
 #include "stage.h"
 
+#include <QPushButton>
 #include <QStandardItemModel>
 
 namespace Gallery {
@@ -67,6 +69,33 @@ void showMultiItemSelectionWidget(Stage& stage)
     stage.addWide(QStringLiteral("Disabled"), disabled);
 }
 
+void showDialog()
+{
+    //! [MultiItemSelectionDialog]
+    MultiItemSelectionDialog dialog; // without a parent: it has no window frame
+    MultiItemSelectionWidget* lists = dialog.getSelectionWidget();
+    lists->setAvailableItems(createLayers(layerNames()));
+    lists->setSelectedItems({ 3 });
+    if (dialog.exec() == QDialog::Accepted) {
+        // print(lists->getSelectedItemIds());
+    }
+    //! [MultiItemSelectionDialog]
+}
+
+void showDialogWithImport()
+{
+    MultiItemSelectionDialog dialog;
+    dialog.getSelectionWidget()->setManualOrdering(true);
+    dialog.getSelectionWidget()->setAvailableItems(createLayers(layerNames()));
+    dialog.getSelectionWidget()->setSelectedItems({ 1, 2, 5 });
+    dialog.showAddButton(true);
+    const auto buttons = dialog.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
+    QObject::connect(buttons.constFirst(), &QPushButton::clicked, &dialog, [&dialog] {
+        dialog.addAvailableItem(createLayers({ QStringLiteral("Imported") }).constFirst());
+    });
+    dialog.exec();
+}
+
 } // namespace
 
 Family selectionFamily()
@@ -80,6 +109,16 @@ Family selectionFamily()
                 QStringLiteral("Two lists: a person picks by moving items to the right."),
                 showMultiItemSelectionWidget,
                 {},
+            },
+            {
+                QStringLiteral("MultiItemSelectionDialog"),
+                QStringLiteral("The two lists with OK and Cancel."),
+                {},
+                {
+                    { QStringLiteral("plain"), QStringLiteral("Dialog"), showDialog },
+                    { QStringLiteral("import"), QStringLiteral("With an import, ordered"),
+                      showDialogWithImport },
+                },
             },
         },
     };

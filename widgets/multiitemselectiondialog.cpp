@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "multiitemselectiondialog.h"
+
+#include "look/housedialog.h"
+#include "multiitemselectionwidget.h"
+#include "sharedconstants.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+MultiItemSelectionDialog::MultiItemSelectionDialog(QWidget* parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags)
+{
+    setWindowFlags(Qt::FramelessWindowHint);
+    Look::prepareHouseDialog(this);
+
+    m_importButton = new QPushButton(tr("Import", "Button text for importing a file."));
+    m_okButton = new QPushButton(tr("OK", "Button text for accepting the selection dialog."));
+    m_cancelButton = new QPushButton(tr("Cancel", "Button text for canceling selection dialog."));
+    for (QPushButton* button : { m_importButton, m_okButton, m_cancelButton }) {
+        button->setMinimumHeight(IconButtonSize.height()); // a finger's, whatever the style
+    }
+    m_selectionWidget = new MultiItemSelectionWidget;
+    m_selectionWidget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    createLayout();
+    m_importButton->hide();
+    // Enter is OK's: without a default button the dialog would choose its first one.
+    m_okButton->setDefault(true);
+
+    connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void MultiItemSelectionDialog::showAddButton(bool show)
+{
+    m_importButton->setVisible(show);
+}
+
+MultiItemSelectionWidget* MultiItemSelectionDialog::getSelectionWidget()
+{
+    return m_selectionWidget;
+}
+
+void MultiItemSelectionDialog::addAvailableItem(QStandardItem* item)
+{
+    m_selectionWidget->addAvailableItem(item);
+}
+
+void MultiItemSelectionDialog::createLayout()
+{
+    auto* answers = new QHBoxLayout;
+    answers->addWidget(m_okButton, 0, Qt::AlignRight);
+    answers->addWidget(m_cancelButton, 0, Qt::AlignRight);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(m_importButton, 0, Qt::AlignLeft);
+    buttons->addItem(new QSpacerItem(0, 0, QSizePolicy::MinimumExpanding, QSizePolicy::Minimum));
+    buttons->addLayout(answers);
+
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(m_selectionWidget);
+    layout->addLayout(buttons);
+    setLayout(layout);
+}
+
+#include "moc_multiitemselectiondialog.cpp"
