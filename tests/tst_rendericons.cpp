@@ -1,21 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
 // SPDX-License-Identifier: MIT
 
+#include "support/program.h"
 #include "support/test.h"
 
 #include <QApplication>
 #include <QDirIterator>
 #include <QImage>
-#include <QProcess>
 
 namespace {
-
-struct Result
-{
-    int exitCode;
-    QString output;
-    QString errors;
-};
 
 /// A project of its own with one drawing, made anew for each test.
 class SmallProject
@@ -56,15 +49,9 @@ public:
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
-    Result run(const QStringList& arguments = {}) const
+    ProgramResult run(const QStringList& arguments = {}) const
     {
-        QProcess tool;
-        tool.start(QStringLiteral(RENDERICONS), QStringList { m_folder.path() } + arguments);
-        if (!tool.waitForFinished() || tool.exitStatus() != QProcess::NormalExit) {
-            return { -1, {}, tool.errorString() };
-        }
-        return { tool.exitCode(), QString::fromUtf8(tool.readAllStandardOutput()),
-                 QString::fromUtf8(tool.readAllStandardError()) };
+        return runProgram(QStringLiteral(RENDERICONS), QStringList { m_folder.path() } + arguments);
     }
 
 private:
@@ -225,7 +212,7 @@ void TestRenderIcons::leavesFilesThatMatchUntouched()
     QVERIFY(QImage(image).save(image, "png", 100)); // the same pixels in other bytes
     const QByteArray bytes = project.read(QStringLiteral("resources/Set/box.png"));
 
-    const Result result = project.run();
+    const ProgramResult result = project.run();
 
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.output, QString());
@@ -250,14 +237,14 @@ void TestRenderIcons::checkNamesWhatDiffersAndWritesNothing()
     QCOMPARE(project.run({ QStringLiteral("--check") }).exitCode, 0);
 
     project.write(file, "something else");
-    const Result changed = project.run({ QStringLiteral("--check") });
+    const ProgramResult changed = project.run({ QStringLiteral("--check") });
 
     QCOMPARE(changed.exitCode, 1);
     QCOMPARE(changed.output, file + QLatin1Char('\n'));
     QCOMPARE(project.read(file), QByteArray("something else"));
 
     QVERIFY(QFile::remove(project.path(file)));
-    const Result missing = project.run({ QStringLiteral("--check") });
+    const ProgramResult missing = project.run({ QStringLiteral("--check") });
 
     QCOMPARE(missing.exitCode, 1);
     QCOMPARE(missing.output, file + QLatin1Char('\n'));
@@ -271,7 +258,7 @@ void TestRenderIcons::namesImagesAndDrawingsThatNobodyLists()
     project.write(QStringLiteral("resources/Set/left-over.png"), "");
     project.write(QStringLiteral("resources/masters/left-over.svg"), "");
 
-    const Result result = project.run({ QStringLiteral("--check") });
+    const ProgramResult result = project.run({ QStringLiteral("--check") });
 
     QCOMPARE(result.exitCode, 1);
     QCOMPARE(result.output,
@@ -315,7 +302,7 @@ void TestRenderIcons::refusesAFaultyManifest()
     const SmallProject project;
     project.writeManifest(images);
 
-    const Result result = project.run();
+    const ProgramResult result = project.run();
 
     QCOMPARE(result.exitCode, 1);
     QVERIFY2(result.errors.contains(complaint), qPrintable(result.errors));
@@ -330,7 +317,7 @@ void TestRenderIcons::refusesADrawingThatIsMissingOrTooLarge()
                           {"macro": "B", "path": "Set/b.png", "role": "B",
                           "size": [3, 6], "master": "box", "look": "dark"})");
 
-    const Result result = project.run();
+    const ProgramResult result = project.run();
 
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.errors.contains(QLatin1String("nowhere.svg")));
@@ -342,7 +329,7 @@ void TestRenderIcons::writesContactSheets()
 {
     const SmallProject project;
 
-    const Result result =
+    const ProgramResult result =
         project.run({ QStringLiteral("--sheets"), project.path(QStringLiteral("sheets")) });
 
     QCOMPARE(result.exitCode, 0);

@@ -38,6 +38,9 @@ private Q_SLOTS:
     void syncIsStartedTwice();
     void aLargeFolderIsStoredInItsOrder();
     void canBeInvokedByName();
+    void anObserverIsToldOfEachDrawing();
+    void anObserverIsToldWhatFailedAfterWhy();
+    void anObserverIsToldNothingOfOtherOperations();
 
 private:
     void draw(const QString& path, const QByteArray& content = filledSvg("red")) const;
@@ -400,6 +403,84 @@ void TestSymbolUpdate::canBeInvokedByName()
     QVERIFY(method.invoke(&database.model, Q_RETURN_ARG(bool, result), Q_ARG(QString, root())));
     QVERIFY(result);
     database.model.close();
+}
+
+void TestSymbolUpdate::anObserverIsToldOfEachDrawing()
+{
+    using Step = SymbolDatabaseModel::UpdateStep;
+    draw(QStringLiteral("Signs/old.svg"));
+    SymbolDatabase database(SymbolDatabase::Schema);
+    QVERIFY(database.model.updateDatabase(root()));
+    database.model.close();
+    for (int i = 0; i < 40; ++i) {
+        draw(QStringLiteral("Signs/%1.svg").arg(i));
+    }
+    QList<Step> steps;
+    int stored = 0;
+    database.model.setUpdateObserver([&](const Step& step) {
+        QCOMPARE(QThread::currentThread(), thread());
+        steps.append(step);
+        stored = database.model.getSymbolIDFromNameWhileOpen(step.name) == -1 ? stored : stored + 1;
+    });
+    QVERIFY(database.model.updateDatabase(root()));
+    database.model.close();
+
+    QCOMPARE(steps.count(), 41);
+    QCOMPARE(stored, 41);
+    QStringList added;
+    for (int i = 0; i < 41; ++i) {
+        QCOMPARE(steps.at(i).done, i + 1);
+        QCOMPARE(steps.at(i).total, 41);
+        QCOMPARE(steps.at(i).category, QStringLiteral("Signs"));
+        QCOMPARE(steps.at(i).outcome, i == 0 ? Step::Known : Step::Added);
+        added.append(steps.at(i).name);
+    }
+    QCOMPARE(added, database.sql(QStringLiteral("SELECT Name FROM Image ORDER BY Id")));
+}
+
+void TestSymbolUpdate::anObserverIsToldWhatFailedAfterWhy()
+{
+    using Step = SymbolDatabaseModel::UpdateStep;
+    draw(QStringLiteral("Signs/a.svg"));
+    draw(QStringLiteral("Signs/empty.svg"), QByteArray());
+    draw(QStringLiteral("Signs/z.svg"));
+    SymbolDatabase database(SymbolDatabase::Schema);
+    QStringList failed;
+    QStringList messages;
+    int added = 0;
+    database.model.setUpdateObserver([&](const Step& step) {
+        const QStringList errors = database.takeErrors();
+        if (step.outcome == Step::Failed) {
+            failed.append(step.name);
+            messages = errors;
+        } else {
+            QCOMPARE(errors, QStringList());
+            ++added;
+        }
+    });
+    QVERIFY(!database.model.updateDatabase(root()));
+    database.model.close();
+    QCOMPARE(failed, QStringList(QStringLiteral("empty.svg")));
+    QCOMPARE(messages.count(), 2);
+    QCOMPARE(added, 2);
+}
+
+void TestSymbolUpdate::anObserverIsToldNothingOfOtherOperations()
+{
+    draw(QStringLiteral("Signs/a.svg"));
+    SymbolDatabase database(SymbolDatabase::Symbols);
+    int told = 0;
+    database.model.setUpdateObserver([&](const auto&) { ++told; });
+    QVERIFY(database.model.addSymbol(m_folder->filePath(QStringLiteral("Signs/a.svg")),
+                                     QStringLiteral("a"), QStringLiteral("Signs"), {}));
+    QCOMPARE(told, 0);
+    QVERIFY(database.model.updateDatabase(root()));
+    database.model.close();
+    QCOMPARE(told, 1);
+    database.model.setUpdateObserver({});
+    QVERIFY(database.model.updateDatabase(root()));
+    database.model.close();
+    QCOMPARE(told, 1);
 }
 
 UW_TEST_MAIN(TestSymbolUpdate)

@@ -27,10 +27,15 @@ namespace {
 /// The id of no symbol.
 constexpr int NoSymbol = -1;
 
-/// Has the buffers of the file system written to the medium. Nobody waits for it.
+/// Has the buffers of the file system written to the medium. Nobody waits for it, not even who
+/// reads what this program prints: it would keep that pipe open.
 void startSync()
 {
-    QProcess::startDetached(QStringLiteral("sync"), {});
+    QProcess sync;
+    sync.setProgram(QStringLiteral("sync"));
+    sync.setStandardOutputFile(QProcess::nullDevice());
+    sync.setStandardErrorFile(QProcess::nullDevice());
+    sync.startDetached();
 }
 
 int toId(const QVariant& value)
@@ -105,16 +110,31 @@ private:
 /// What an update has to do and has done.
 struct Update
 {
-    struct NewSymbol
+    struct Drawing
     {
         QString category;
         QString name;
-        QString path;
     };
+
+    QString folder;
     QStringList addedCategories;
-    QList<NewSymbol> newSymbols;
-    QStringList knownSymbols;
+    QList<Drawing> newSymbols;
+    QList<Drawing> knownSymbols;
+
+    QString pathOf(const Drawing& drawing) const
+    {
+        return SymbolFolder::path(folder, drawing.category, drawing.name);
+    }
 };
+
+QStringList namesOf(const QList<Update::Drawing>& drawings)
+{
+    QStringList names;
+    for (const Update::Drawing& drawing : drawings) {
+        names.append(drawing.name);
+    }
+    return names;
+}
 
 void logList(const char* title, const QStringList& names)
 {
@@ -144,7 +164,7 @@ public:
     int knownCategory(const QString& category) const;
     QSet<QString> symbolNames() const;
     Update planUpdate(const QString& folder) const;
-    bool addNewSymbols(const QList<Update::NewSymbol>& symbols) const;
+    bool carryOut(const Update& update) const;
 
     /// Runs `steps` in a transaction, which is committed whatever they return.
     template <typename Steps> bool inTransaction(Steps steps) const
@@ -160,6 +180,7 @@ public:
     SymbolDatabaseModel* const q;
     QString databasePath;
     const QString connectionName = QUuid::createUuid().toString();
+    UpdateObserver updateObserver;
 };
 
 /// A query that keeps no row longer than it is needed. If the statement is no good, executing it
@@ -257,6 +278,7 @@ QSet<QString> SymbolDatabaseModel::Private::symbolNames() const
 Update SymbolDatabaseModel::Private::planUpdate(const QString& folder) const
 {
     Update update;
+    update.folder = folder;
     const QStringList categories = SymbolFolder::categories(folder);
     const QStringList known = q->getCategoriesWhileOpen();
     const QSet<QString> knownCategories(known.begin(), known.end());
@@ -272,34 +294,47 @@ Update SymbolDatabaseModel::Private::planUpdate(const QString& folder) const
         const QStringList files = SymbolFolder::files(folder, category);
         for (const QString& file : files) {
             if (names.contains(file)) {
-                update.knownSymbols.append(file);
+                update.knownSymbols.append({ category, file });
             } else {
                 names.insert(file);
-                update.newSymbols.append(
-                    { category, file, SymbolFolder::path(folder, category, file) });
+                update.newSymbols.append({ category, file });
             }
         }
     }
     return update;
 }
 
-bool SymbolDatabaseModel::Private::addNewSymbols(const QList<Update::NewSymbol>& symbols) const
+/// Adds the new symbols and tells the observer of all.
+bool SymbolDatabaseModel::Private::carryOut(const Update& update) const
 {
+    const int total = int(update.knownSymbols.size() + update.newSymbols.size());
+    int done = 0;
+    const auto tell = [&](const Update::Drawing& drawing, UpdateStep::Outcome outcome) {
+        ++done;
+        if (updateObserver) {
+            updateObserver({ drawing.category, drawing.name, outcome, done, total });
+        }
+    };
+    for (const Update::Drawing& drawing : update.knownSymbols) {
+        tell(drawing, UpdateStep::Known);
+    }
+
     QStringList paths;
-    for (const Update::NewSymbol& symbol : symbols) {
-        paths.append(symbol.path);
+    for (const Update::Drawing& drawing : update.newSymbols) {
+        paths.append(update.pathOf(drawing));
     }
     SymbolReader reader(paths);
     bool areAdded = true;
-    for (const Update::NewSymbol& symbol : symbols) {
+    for (const Update::Drawing& drawing : update.newSymbols) {
         const SymbolReader::Symbol read = reader.next();
         // What could not be read is tried again the slow way, which reports why.
         const bool isAdded = read.thumbnail.isNull()
-            ? q->addSymbolWhileOpenTransaction(symbol.path, symbol.name, symbol.category,
-                                               QStringList())
-            : q->addSymbolWhileOpenTransaction(read.data, read.thumbnail, symbol.name,
-                                               symbol.category);
+            ? q->addSymbolWhileOpenTransaction(update.pathOf(drawing), drawing.name,
+                                               drawing.category, QStringList())
+            : q->addSymbolWhileOpenTransaction(read.data, read.thumbnail, drawing.name,
+                                               drawing.category);
         areAdded = isAdded && areAdded;
+        tell(drawing, isAdded ? UpdateStep::Added : UpdateStep::Failed);
     }
     return areAdded;
 }
@@ -771,19 +806,20 @@ bool SymbolDatabaseModel::updateDatabase(const QString& svgFolderPath)
         return false;
     }
     const Update update = d->planUpdate(svgFolderPath);
-    if (!d->addNewSymbols(update.newSymbols) || !transaction.commit()) {
+    if (!d->carryOut(update) || !transaction.commit()) {
         return false;
     }
     startSync();
 
-    QStringList addedSymbols;
-    for (const Update::NewSymbol& symbol : update.newSymbols) {
-        addedSymbols.append(symbol.name);
-    }
     logList("Added Categories:", update.addedCategories);
-    logList("Added Symbols:", addedSymbols);
-    logList("Updated Symbols:", update.knownSymbols);
+    logList("Added Symbols:", namesOf(update.newSymbols));
+    logList("Updated Symbols:", namesOf(update.knownSymbols));
     return true;
+}
+
+void SymbolDatabaseModel::setUpdateObserver(UpdateObserver observer)
+{
+    d->updateObserver = std::move(observer);
 }
 
 #include "moc_symboldatabasemodel.cpp"

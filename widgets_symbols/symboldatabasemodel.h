@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QSqlDatabase;
@@ -54,6 +55,23 @@ class UTILITYWIDGETS_EXPORT SymbolDatabaseModel : public QObject
         QString DatabasePath READ databasePath WRITE setDatabasePath NOTIFY databasePathChanged)
 
 public:
+    /// A drawing that updateDatabase() has dealt with.
+    struct UpdateStep
+    {
+        enum Outcome {
+            Added,
+            Known, ///< there is a symbol of that name, which stays as it is
+            Failed, ///< errorOccured() has just said why; in the end the update will be undone
+        };
+
+        QString category;
+        QString name;
+        Outcome outcome = Added;
+        int done = 0; ///< the drawings dealt with so far, this one included
+        int total = 0; ///< the drawings in the whole folder
+    };
+    using UpdateObserver = std::function<void(const UpdateStep&)>;
+
     explicit SymbolDatabaseModel(QObject* parent = nullptr);
     ~SymbolDatabaseModel() override;
 
@@ -184,11 +202,16 @@ public:
      * one a symbol named after the file, ending included. A symbol whose name is known, in whatever
      * category, stays as it is. All or nothing: false if a single drawing could not be added.
      *
-     * The three lists of what was added and what was known go to the log.
+     * The three lists of what was added and what was known go to the log. Who wants to know sooner,
+     * or which drawing failed, sets an observer.
      *
      * The connection stays open, whatever the result: call close() before anything else.
      */
     Q_INVOKABLE bool updateDatabase(const QString& svgFolderPath);
+    /// Is called by updateDatabase(), on its thread, once for each drawing: first the known ones,
+    /// then the others in their order, each as soon as it is stored. May look things up ("WhileOpen") but change
+    /// nothing.
+    void setUpdateObserver(UpdateObserver observer);
 
 Q_SIGNALS:
     void databasePathChanged(QString path);

@@ -9,6 +9,7 @@
 #include "symboldatabasemodel.h"
 #include "symboldatabasewidget.h"
 #include "symboldatabaseworker.h"
+#include "symbolinspection.h"
 #include "symbolslineedit.h"
 #include "symbolsmenu.h"
 
@@ -16,6 +17,8 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QListView>
 #include <QPixmap>
 #include <QStandardItemModel>
@@ -239,6 +242,53 @@ void showSymbolsMenu(Stage& stage)
     stage.add(QStringLiteral("A first category with a very long name"), create({ longText() }));
 }
 
+const Drawing DoubtfulDrawings[] {
+    { "A drawing without faults", "", "", "<path d='M24 6L42 26H31V42H17V26H6Z' fill='#2b2b2b'/>" },
+    { "It uses a clip path", "", "",
+      "<clipPath id='c'><path d='M0 0H24V48H0Z'/></clipPath>"
+      "<circle cx='24' cy='24' r='20' fill='#fd7800' clip-path='url(#c)'/>" },
+    { "It shows an image file", "", "",
+      "<circle cx='24' cy='24' r='20' fill='#5a5959'/>"
+      "<image href='photo.png' width='48' height='48'/>" },
+    { "It is not well-formed", "", "", "<circle cx='24' cy='24' r='20'>" },
+};
+
+QString textOf(const QByteArray& document)
+{
+    QString text;
+    //! [SymbolInspection]
+    const SymbolInspection inspection(document);
+    if (inspection.isRefused()) {
+        text = QStringLiteral("Not drawn: ") + inspection.refusal();
+    } else if (!inspection.leftOut().isEmpty()) {
+        text = QStringLiteral("Left out: ") + inspection.leftOut().join(QStringLiteral(", "));
+    } else if (!inspection.ignored().isEmpty()) {
+        text = QStringLiteral("Ignored: ") + inspection.ignored().join(QStringLiteral(", "));
+    }
+    //! [SymbolInspection]
+    return text.isEmpty() ? QStringLiteral("As drawn") : text;
+}
+
+void showSymbolInspection(Stage& stage)
+{
+    stage.setColumns(2);
+    for (const Drawing& drawing : DoubtfulDrawings) {
+        const QByteArray document = documentOf(drawing);
+        QPixmap thumbnail;
+        thumbnail.loadFromData(SymbolDatabaseModel().getThumbnailDataFromRawData(document));
+        auto* picture = new QLabel;
+        picture->setPixmap(thumbnail);
+        auto* verdict = new QLabel(textOf(document));
+        verdict->setWordWrap(true);
+        auto* row = new QWidget;
+        auto* layout = new QHBoxLayout(row);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(picture);
+        layout->addWidget(verdict, 1);
+        stage.add(QString::fromLatin1(drawing.name), row);
+    }
+}
+
 } // namespace
 
 Family symbolsFamily()
@@ -284,6 +334,12 @@ Family symbolsFamily()
                 QStringLiteral("SymbolsLineEdit"),
                 QStringLiteral("A search field whose magnifier stands for the Return key."),
                 showSymbolsLineEdit,
+                {},
+            },
+            {
+                QStringLiteral("SymbolInspection"),
+                QStringLiteral("Tells why a thumbnail differs from the drawing it was made of."),
+                showSymbolInspection,
                 {},
             },
         },
