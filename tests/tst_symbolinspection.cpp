@@ -131,15 +131,16 @@ void TestSymbolInspection::whatIsNotDrawnIsNamed_data()
         "<rect width='50' height='50' filter='url(#a)'/>",
         "filters");
     add("pattern",
-        "<pattern id='a' width='50' height='50' patternUnits='userSpaceOnUse'>" + Box
-            + "</pattern><rect width='50' height='50' fill='url(#a)'/>",
+        "<defs><pattern id='a' width='50' height='50' patternUnits='userSpaceOnUse'>" + Box
+            + "</pattern></defs><rect width='50' height='50' fill='url(#a)'/>",
         "patterns");
     add("marker",
-        "<marker id='a' markerWidth='50' markerHeight='50' markerUnits='userSpaceOnUse'>" + Box
-            + "</marker><path d='M0 0L50 0' marker-start='url(#a)'/>",
+        "<defs><marker id='a' markerWidth='50' markerHeight='50' markerUnits='userSpaceOnUse'>"
+            + Box + "</marker></defs><path d='M0 0L50 0' marker-start='url(#a)'/>",
         "markers");
     add("symbol",
-        "<symbol id='a'>" + Box + "</symbol><use xlink:href='#a' width='50' height='50'/>",
+        "<defs><symbol id='a'>" + Box
+            + "</symbol></defs><use xlink:href='#a' width='50' height='50'/>",
         "symbol elements");
     add("blend mode",
         Box + "<rect width='50' height='50' fill='white' style='mix-blend-mode: multiply'/>",

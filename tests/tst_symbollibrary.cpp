@@ -407,7 +407,8 @@ void TestSymbolLibrary::updateReportsWhatWillNotLookAsDrawn()
                  QStringLiteral("doubtful: Signs/file.svg: left out: references to files"),
                  QStringLiteral("doubtful: Signs/html.svg: blank; not an SVG document"),
                  QStringLiteral("doubtful: Signs/text.svg: not drawn: texts along paths"),
-                 QStringLiteral("doubtful: Signs/white.svg: blank"),
+                 QStringLiteral("doubtful: Signs/white.svg: blank; all that it draws is white "
+                                "or beyond its edges"),
              }));
     // What was there before is not reported again.
     QVERIFY(!run("update", { m_folder->path() }).output.contains(QLatin1String("doubtful")));
@@ -732,8 +733,9 @@ void TestSymbolLibrary::checkReportsBlankThumbnails()
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(result.errors, QString());
     QCOMPARE(result.output,
-             QStringLiteral("symbol 8 (white.svg): blank\n"
-                            "symbol 9 (html\\n.svg): blank: not an SVG document\n"));
+             QStringLiteral("symbol 8 (white.svg): blank; all that it draws is white or "
+                            "beyond its edges\n"
+                            "symbol 9 (html\\n.svg): blank; not an SVG document\n"));
     QCOMPARE(run("check", { QStringLiteral("-q") }).output, QString());
 }
 

@@ -32,9 +32,11 @@ struct Feature
     const char* probe;
 };
 
+/// Inside "defs", because a renderer that does not know an element draws what is in it.
 const char MarkerProbe[] =
-    "<marker id='a' markerWidth='8' markerHeight='8' markerUnits='userSpaceOnUse'>"
-    "<rect width='8' height='8' fill='red'/></marker><path d='M0 0L8 0' marker-start='url(#a)'/>";
+    "<defs><marker id='a' markerWidth='8' markerHeight='8' markerUnits='userSpaceOnUse'>"
+    "<rect width='8' height='8' fill='red'/></marker></defs>"
+    "<path d='M0 0L8 0' marker-start='url(#a)'/>";
 
 // Drawings with patterns and symbol elements would make a renderer that knows neither warn. Qt
 // learned them together with markers.

@@ -5,6 +5,7 @@
 
 #include "console.h"
 #include "library.h"
+#include "remarks.h"
 #include "symbolinspection.h"
 
 #include <QImage>
@@ -68,9 +69,8 @@ void checkSymbols(Library& library, bool isQuiet)
             if (!damage.isEmpty()) {
                 library.complain(symbol + QStringLiteral(": ") + damage);
             } else if (!isQuiet && SymbolInspection::isBlank(thumbnail)) {
-                const QString refusal = SymbolInspection(row.value(3).toByteArray()).refusal();
-                Console::print(symbol + QStringLiteral(": blank")
-                               + (refusal.isEmpty() ? QString() : QStringLiteral(": ") + refusal));
+                Console::print(symbol + QStringLiteral(": ")
+                               + remarksOn(thumbnail, row.value(3).toByteArray()));
             }
             if (!isQuiet) {
                 progress.show(++done, total);

@@ -4,7 +4,7 @@
 #include "commands.h"
 #include "console.h"
 #include "library.h"
-#include "symbolinspection.h"
+#include "remarks.h"
 
 #include <QDir>
 #include <QFile>
@@ -164,27 +164,13 @@ void UpdateRun::inspectNewSymbols()
                        "LEFT JOIN Category ON Image.CategoryId = Category.Id WHERE Image.Id > %1")
             .arg(m_lastFormerId),
         [&](const QSqlQuery& row) {
-            const SymbolInspection inspection(row.value(3).toByteArray());
-            QStringList remarks;
-            if (SymbolInspection::isBlank(row.value(2).toByteArray())) {
-                remarks.append(QStringLiteral("blank"));
-            }
-            if (inspection.isRefused()) {
-                remarks.append(inspection.refusal());
-            }
-            if (!inspection.leftOut().isEmpty()) {
-                remarks.append(QStringLiteral("left out: ")
-                               + inspection.leftOut().join(QLatin1String(", ")));
-            }
-            if (!inspection.ignored().isEmpty()) {
-                remarks.append(QStringLiteral("not drawn: ")
-                               + inspection.ignored().join(QLatin1String(", ")));
-            }
+            const QString remarks =
+                remarksOn(row.value(2).toByteArray(), row.value(3).toByteArray());
             if (!remarks.isEmpty()) {
                 ++m_doubtful;
                 Console::print(QStringLiteral("doubtful: ")
                                + nameOf(row.value(0).toString(), row.value(1).toString())
-                               + QStringLiteral(": ") + remarks.join(QLatin1String("; ")));
+                               + QStringLiteral(": ") + remarks);
             }
             progress.show(++done, m_added.size());
         });
