@@ -7,6 +7,7 @@
 #include "page.h"
 #include "sharedconstants.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -16,6 +17,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace Gallery {
@@ -23,6 +25,7 @@ namespace Gallery {
 namespace {
 
 constexpr int DialogPatience = 5000; // milliseconds until a dialog counts as missing
+constexpr int ListPatience = 1000; // milliseconds until an empty list counts as one
 
 /// All windows that can be seen, in the order in which they were made: that is how they stack.
 QWidgetList visibleWindows()
@@ -75,6 +78,16 @@ bool save(const QPixmap& picture, const QString& path)
     return saved;
 }
 
+/// Whether a list in `dialog` may still be filling, as those of folders do on threads of their own.
+bool hasEmptyList(const QWidget* dialog)
+{
+    const auto views = dialog->findChildren<QAbstractItemView*>();
+    return std::any_of(views.begin(), views.end(), [](const QAbstractItemView* view) {
+        return view->isVisible() && view->model() != nullptr
+            && view->model()->rowCount(view->rootIndex()) == 0;
+    });
+}
+
 bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& path)
 {
     bool saved = false;
@@ -85,6 +98,9 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* dialog = openedDialog(window);
         if (dialog == nullptr && (over || waited.elapsed() < DialogPatience)) {
+            return;
+        }
+        if (!over && dialog != nullptr && hasEmptyList(dialog) && waited.elapsed() < ListPatience) {
             return;
         }
         if (dialog == nullptr) {

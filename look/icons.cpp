@@ -34,3 +34,10 @@ QIcon Look::icon(const QString& path)
     }
     return icon;
 }
+
+QIcon Look::listIcon(const QString& path)
+{
+    QIcon untinted = icon(path);
+    untinted.addFile(path, {}, QIcon::Selected);
+    return untinted;
+}

@@ -16,4 +16,8 @@ namespace Look {
  */
 QIcon icon(const QString& path);
 
+/// The same for items of lists: in a selected row it keeps its colours, where other icons are tinted
+/// with the selection's.
+QIcon listIcon(const QString& path);
+
 } // namespace Look

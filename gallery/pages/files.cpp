@@ -4,11 +4,14 @@
 #include "pages/families.h"
 
 #include "dragscrolllistview.h"
+#include "oxfiledialog.h"
 #include "oxfileiconprovider.h"
 #include "oxiconitemdelegate.h"
+#include "oxmessagebox.h"
 #include "sharedconstants.h"
 #include "stage.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -19,6 +22,115 @@
 namespace Gallery {
 
 namespace {
+
+/// The gallery's window, which the dialogs stand in front of.
+QWidget* window()
+{
+    return QApplication::activeWindow();
+}
+
+/// A folder to choose from, for as long as a dialog shows it. Always the same path, so that
+/// pictures of the dialog do not differ; without a dot, which would make it a file's.
+class SampleFolder
+{
+public:
+    SampleFolder()
+    {
+        QDir::temp().mkdir(name());
+        for (const QString& folder : folders()) {
+            m_folder.mkdir(folder);
+        }
+        for (const QString& file : files()) {
+            QFile(m_folder.filePath(file)).open(QIODevice::WriteOnly);
+        }
+    }
+
+    ~SampleFolder()
+    {
+        for (const QString& file : files()) {
+            m_folder.remove(file);
+        }
+        for (const QString& folder : folders()) {
+            m_folder.rmdir(folder);
+        }
+        QDir::temp().rmdir(name());
+    }
+
+    Q_DISABLE_COPY_MOVE(SampleFolder)
+
+    QString path() const { return m_folder.path(); }
+
+private:
+    static QString name() { return QStringLiteral("Designs"); }
+
+    static QStringList folders()
+    {
+        return { QStringLiteral("Banners"), QStringLiteral("Labels"), QStringLiteral("Signs") };
+    }
+
+    static QStringList files()
+    {
+        QStringList names { QStringLiteral("Read me.txt"), QStringLiteral("Prices.txt") };
+        for (int i = 1; i <= 12; ++i) {
+            names.append(QStringLiteral("Label %1.lbl").arg(i, 2, 10, QLatin1Char('0')));
+        }
+        return names;
+    }
+
+    QDir m_folder = QDir(QDir::temp().filePath(name()));
+};
+
+QString formats()
+{
+    return QStringLiteral("Labels (*.lbl);;Texts (*.txt)");
+}
+
+/// Says what a file dialog returned, unless nothing was chosen.
+void showChoice(const QString& path)
+{
+    if (!path.isEmpty()) {
+        OxMessageBox::information(window(), QStringLiteral("RESULT"), path.toHtmlEscaped());
+    }
+}
+
+void openFile()
+{
+    const SampleFolder folder;
+    //! [OxFileDialog]
+    const QString path =
+        OxFileDialog::getOpenFileName(window(), QString(), folder.path(), formats());
+    showChoice(path); // empty when nothing was chosen
+    //! [OxFileDialog]
+}
+
+void saveFile()
+{
+    const SampleFolder folder;
+    showChoice(OxFileDialog::getSaveFileName(window(), {}, folder.path(), formats()));
+}
+
+void selectFolder()
+{
+    const SampleFolder folder;
+    showChoice(OxFileDialog::getExistingDirectory(window(), {}, folder.path()));
+}
+
+void openFileWithLongTexts()
+{
+    const SampleFolder folder;
+    showChoice(OxFileDialog::getOpenFileName(window(), longText(), folder.path(),
+                                             longText() + QStringLiteral(" (*.lbl)")));
+}
+
+QList<DialogState> fileDialogs()
+{
+    return {
+        { QStringLiteral("open"), QStringLiteral("Open a file"), openFile },
+        { QStringLiteral("save"), QStringLiteral("Save a file"), saveFile },
+        { QStringLiteral("folder"), QStringLiteral("Select a folder"), selectFolder },
+        { QStringLiteral("long"), QStringLiteral("Long texts"), openFileWithLongTexts },
+    };
+}
 
 constexpr int ListHeight = 4 * 35 + 2; // whole rows inside a frame
 
@@ -111,6 +223,13 @@ Family filesFamily()
         QStringLiteral("Files"),
         QStringLiteral(":/gallery/pages/files.cpp"),
         {
+            {
+                QStringLiteral("OxFileDialog"),
+                QStringLiteral("Lets the person choose a file to open, a name to save under, or a "
+                               "folder."),
+                {},
+                fileDialogs(),
+            },
             page("OxFileIconProvider",
                  "One picture for every folder and one for every file, for file-system models.",
                  showOxFileIconProvider),
