@@ -127,7 +127,7 @@ public:
     /// Waits until it has told that nothing is mounted; returns what went wrong.
     QByteArray start()
     {
-        const QByteArray failure = m_mounts.start();
+        QByteArray failure = m_mounts.start();
         if (!failure.isEmpty()) {
             return failure;
         }
