@@ -6,6 +6,9 @@
 #include "support/pressable.h"
 #include "support/test.h"
 
+#include <QLabel>
+#include <QVBoxLayout>
+
 class TestClickableFrame : public Test
 {
     Q_OBJECT
@@ -17,6 +20,7 @@ private Q_SLOTS:
     void reportsBothTapsOfADoubleTap();
     void reportsNothingWhileItIsDisabled();
     void reportsThePressBeforeTheBaseHandlesIt();
+    void isAButtonToThoseWhoCannotSee();
 };
 
 void TestClickableFrame::passesItsWindowFlagsOn()
@@ -52,6 +56,15 @@ void TestClickableFrame::reportsNothingWhileItIsDisabled()
 void TestClickableFrame::reportsThePressBeforeTheBaseHandlesIt()
 {
     Pressable::reportsThePressBeforeTheBaseHandlesIt<ClickableFrame>();
+}
+
+void TestClickableFrame::isAButtonToThoseWhoCannotSee()
+{
+    ClickableFrame frame;
+    auto* layout = new QVBoxLayout(&frame);
+    layout->addWidget(new QLabel(QStringLiteral("Colour")));
+    layout->addWidget(new QLabel(QStringLiteral("of the pen")));
+    Pressable::isAButtonToThoseWhoCannotSee(frame, QStringLiteral("Colour of the pen"));
 }
 
 UW_TEST_MAIN(TestClickableFrame)

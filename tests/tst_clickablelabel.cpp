@@ -19,6 +19,7 @@ private Q_SLOTS:
     void reportsBothTapsOfADoubleTap();
     void reportsNothingWhileItIsDisabled();
     void reportsThePressBeforeTheBaseHandlesIt();
+    void isAButtonToThoseWhoCannotSee();
 };
 
 void TestClickableLabel::passesItsWindowFlagsOn()
@@ -82,6 +83,12 @@ void TestClickableLabel::reportsNothingWhileItIsDisabled()
 void TestClickableLabel::reportsThePressBeforeTheBaseHandlesIt()
 {
     Pressable::reportsThePressBeforeTheBaseHandlesIt<ClickableLabel>();
+}
+
+void TestClickableLabel::isAButtonToThoseWhoCannotSee()
+{
+    ClickableLabel label(QStringLiteral("Open <b>it</b>"));
+    Pressable::isAButtonToThoseWhoCannotSee(label, QStringLiteral("Open it"));
 }
 
 UW_TEST_MAIN(TestClickableLabel)

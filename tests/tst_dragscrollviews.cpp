@@ -11,6 +11,7 @@
 #include "support/modaldialog.h"
 #include "support/test.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
@@ -189,6 +190,7 @@ class TestDragScrollViews : public Test
 private Q_SLOTS:
     void haveTheirObjectNamesAndScrollByPixels_data();
     void haveTheirObjectNamesAndScrollByPixels();
+    void theCornerOfATableHasAName();
     void setSliderPositionMovesAnyBarWithinItsRange_data() { addViewRows(); }
     void setSliderPositionMovesAnyBarWithinItsRange();
 
@@ -270,6 +272,12 @@ void TestDragScrollViews::haveTheirObjectNamesAndScrollByPixels()
     QCOMPARE(subject.view->objectName(), name);
     QCOMPARE(subject.view->verticalScrollMode(), QAbstractItemView::ScrollPerPixel);
     QCOMPARE(subject.view->horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+}
+
+void TestDragScrollViews::theCornerOfATableHasAName()
+{
+    const DragScrollTableView table;
+    QCOMPARE(table.findChild<QAbstractButton*>()->accessibleName(), QStringLiteral("Select all"));
 }
 
 void TestDragScrollViews::setSliderPositionMovesAnyBarWithinItsRange()

@@ -7,6 +7,7 @@
 #include "support/paintcounter.h"
 #include "support/test.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void passesItsWindowFlagsOn();
     void saysNothingWhenAWidgetInsideItIsLeft();
     void isRepaintedByItsBaseWhenItIsLeft();
+    void isAGroupToThoseWhoCannotSee();
 };
 
 void TestOxFrame::passesItsWindowFlagsOn()
@@ -63,6 +65,12 @@ void TestOxFrame::isRepaintedByItsBaseWhenItIsLeft()
     form.leave();
 
     QTRY_VERIFY(paints.count() > before);
+}
+
+void TestOxFrame::isAGroupToThoseWhoCannotSee()
+{
+    OxFrame frame;
+    QCOMPARE(QAccessible::queryAccessibleInterface(&frame)->role(), QAccessible::Grouping);
 }
 
 UW_TEST_MAIN(TestOxFrame)

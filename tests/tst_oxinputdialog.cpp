@@ -10,6 +10,7 @@
 #include "support/modaldialog.h"
 #include "support/test.h"
 
+#include <QAccessible>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -123,6 +124,8 @@ private Q_SLOTS:
 
     void theFieldOfEachLayout_data();
     void theFieldOfEachLayout();
+    void theFieldIsNamedByTheLabel_data() { theFieldOfEachLayout_data(); }
+    void theFieldIsNamedByTheLabel();
     void theTextFieldIsAPlainLineEdit();
     void theSpinBoxesHaveRangeValueAndNoArrows();
     void theDecimalFieldKeepsTheDefaultDecimals();
@@ -256,6 +259,16 @@ void TestOxInputDialog::theFieldOfEachLayout()
     const QWidget* field = inner->itemAt(0)->widget();
     QCOMPARE(QByteArray(field->metaObject()->className()), className);
     QCOMPARE(field->minimumSize(), minimumSize);
+}
+
+void TestOxInputDialog::theFieldIsNamedByTheLabel()
+{
+    QFETCH(Script, setLayout);
+    OxInputDialog dialog(nullptr, {}, QStringLiteral("Layer"), QStringLiteral("Name & number:"));
+    setLayout(&dialog);
+    QWidget* field = dialog.layout()->itemAt(2)->layout()->itemAt(0)->widget();
+    QCOMPARE(QAccessible::queryAccessibleInterface(field)->text(QAccessible::Name),
+             QStringLiteral("Name & number:"));
 }
 
 void TestOxInputDialog::theTextFieldIsAPlainLineEdit()

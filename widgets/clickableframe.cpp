@@ -3,9 +3,13 @@
 
 #include "clickableframe.h"
 
+#include "touch/accessibleroles.h"
+
 ClickableFrame::ClickableFrame(QWidget* parent, Qt::WindowFlags f)
     : QFrame(parent, f)
-{ }
+{
+    Touch::installAccessibleRoles();
+}
 
 void ClickableFrame::mousePressEvent(QMouseEvent* event)
 {

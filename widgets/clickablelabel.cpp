@@ -3,6 +3,8 @@
 
 #include "clickablelabel.h"
 
+#include "touch/accessibleroles.h"
+
 ClickableLabel::ClickableLabel(QWidget* parent, Qt::WindowFlags f)
     : ClickableLabel(QString(), parent, f)
 { }
@@ -11,6 +13,7 @@ ClickableLabel::ClickableLabel(const QString& text, QWidget* parent, Qt::WindowF
     : QLabel(text, parent, f)
 {
     setObjectName(QStringLiteral("ClickableLabel"));
+    Touch::installAccessibleRoles();
 }
 
 void ClickableLabel::mousePressEvent(QMouseEvent* event)

@@ -5,6 +5,7 @@
 
 #include "touch/draggesture.h"
 
+#include <QAbstractButton>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -17,6 +18,11 @@ DragScrollTableView::DragScrollTableView(QWidget* parent)
     setObjectName(QStringLiteral("DragScrollListView"));
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
+    // Qt gives the button between the two headers neither a text nor a name.
+    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        corner->setAccessibleName(
+            tr("Select all", "Accessible name of the button in the corner of a table."));
+    }
 }
 
 DragScrollTableView::~DragScrollTableView() = default;

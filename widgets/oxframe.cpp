@@ -3,9 +3,13 @@
 
 #include "oxframe.h"
 
+#include "touch/accessibleroles.h"
+
 OxFrame::OxFrame(QWidget* parent, Qt::WindowFlags f)
     : QFrame(parent, f)
-{ }
+{
+    Touch::installAccessibleRoles();
+}
 
 void OxFrame::focusOutEvent(QFocusEvent* event)
 {

@@ -158,6 +158,8 @@ void OxInputDialog::createButtons()
 void OxInputDialog::createLayout(QWidget* field, int minimumWidth)
 {
     field->setMinimumSize(minimumWidth, FieldHeight);
+    // Not as the label's buddy: that would make a shortcut of an ampersand in the text.
+    field->setAccessibleName(m_label->text());
 
     auto* inner = new QVBoxLayout;
     inner->setContentsMargins(12, 6, 12, 6);

@@ -6,6 +6,7 @@
 #include "support/fieldform.h"
 #include "support/finger.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QObject>
 #include <QSignalSpy>
@@ -35,6 +36,27 @@ public:
 private:
     QEvent* m_event = nullptr;
 };
+
+/// With `text` to be read on the widget.
+template <typename Widget> void isAButtonToThoseWhoCannotSee(Widget& widget, const QString& text)
+{
+    QSignalSpy clicked(&widget, &Widget::clicked);
+    auto* accessible = QAccessible::queryAccessibleInterface(&widget);
+    const QString press = QAccessibleActionInterface::pressAction();
+
+    QCOMPARE(accessible->role(), QAccessible::Button);
+    QCOMPARE(accessible->text(QAccessible::Name), text);
+    QVERIFY(accessible->actionInterface()->actionNames().contains(press));
+    accessible->actionInterface()->doAction(press);
+    QCOMPARE(clicked.count(), 1);
+
+    widget.setAccessibleName(QStringLiteral("Given"));
+    QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("Given"));
+    widget.setEnabled(false);
+    QVERIFY(!accessible->actionInterface()->actionNames().contains(press));
+    accessible->actionInterface()->doAction(press);
+    QCOMPARE(clicked.count(), 1);
+}
 
 template <typename Widget> void reportsThePressAndNotTheRelease()
 {
