@@ -29,7 +29,7 @@ QPlainTextEdit* createSnippetView()
     view->setObjectName(QStringLiteral("GallerySnippet"));
     view->setAccessibleName(QStringLiteral("Snippet"));
     view->setReadOnly(true);
-    view->setFocusPolicy(Qt::NoFocus);
+    view->setFocusPolicy(Qt::TabFocus); // a tap leaves the focus with the instance at hand
     view->setLineWrapMode(QPlainTextEdit::NoWrap);
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSize(ApplicationFont::sizes().tiny);

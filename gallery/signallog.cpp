@@ -123,7 +123,7 @@ SignalLog::SignalLog(QWidget* parent)
     setObjectName(QStringLiteral("GallerySignalLog"));
     setAccessibleName(QStringLiteral("Signal log"));
     setReadOnly(true);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus); // a tap leaves the focus with the instance at hand
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setMaximumBlockCount(MaximumLines);
     setPlaceholderText(QStringLiteral("Touch an instance: its signals appear here."));

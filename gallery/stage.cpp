@@ -7,6 +7,7 @@
 #include "page.h"
 #include "signallog.h"
 
+#include <QAbstractItemView>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -97,7 +98,13 @@ void Stage::place(const QString& caption, QWidget* widget, int span)
     cell->setContentsMargins(ColumnGap * m_column / m_columns, 0,
                              ColumnGap * (m_columns - m_column - span) / m_columns, 0);
     cell->setSpacing(2);
-    cell->addWidget(createCaption(caption));
+    QLabel* label = createCaption(caption);
+    // For those who cannot see that the two belong together. Lists take no name from a buddy.
+    label->setBuddy(widget);
+    if (qobject_cast<QAbstractItemView*>(widget) != nullptr && widget->accessibleName().isEmpty()) {
+        widget->setAccessibleName(caption);
+    }
+    cell->addWidget(label);
     cell->addWidget(widget);
     cell->addStretch();
     const int width = GridColumns / m_columns;

@@ -56,19 +56,6 @@ QPixmap picture(GalleryWindow* window)
     return screen;
 }
 
-/// What stands in front of the window and would be closed first; null when nothing does.
-QWidget* openedDialog(const GalleryWindow* window)
-{
-    if (QWidget* dialog = QApplication::activeModalWidget()) {
-        return dialog;
-    }
-    if (QWidget* popup = QApplication::activePopupWidget()) {
-        return popup;
-    }
-    const QWidgetList widgets = visibleWindows();
-    return widgets.isEmpty() || widgets.constLast() == window ? nullptr : widgets.constLast();
-}
-
 bool save(const QPixmap& picture, const QString& path)
 {
     const bool saved = picture.save(path, "PNG");
@@ -96,7 +83,7 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     QTimer poll;
     bool over = false;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
-        QWidget* dialog = openedDialog(window);
+        QWidget* dialog = windowInFrontOf(window);
         if (dialog == nullptr && (over || waited.elapsed() < DialogPatience)) {
             return;
         }
@@ -121,6 +108,18 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
 }
 
 } // namespace
+
+QWidget* windowInFrontOf(const GalleryWindow* window)
+{
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        return dialog;
+    }
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        return popup;
+    }
+    const QWidgetList widgets = visibleWindows();
+    return widgets.isEmpty() || widgets.constLast() == window ? nullptr : widgets.constLast();
+}
 
 bool takeTour(const QString& folder)
 {

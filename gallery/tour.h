@@ -5,7 +5,15 @@
 
 #include <QString>
 
+class QWidget;
+
 namespace Gallery {
+
+class GalleryWindow;
+
+/// The window, dialog or popup that stands in front of `window` and would be closed first; null when
+/// none does.
+QWidget* windowInFrontOf(const GalleryWindow* window);
 
 /*!
  * Writes one picture per page ("<page>.png") and per dialog state ("<page>-<state>.png") into

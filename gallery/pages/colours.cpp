@@ -19,6 +19,7 @@
 #include <QEvent>
 #include <QEventLoop>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -45,6 +46,9 @@ public:
 
 Q_SIGNALS:
     void closeSignal();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 //! [IOxTransparentWidget]
 
@@ -71,11 +75,20 @@ PenColorPanel::PenColorPanel(QWidget* parent)
     connect(menu, &ColorMenu::colorSignal, this, &PenColorPanel::closeSignal);
 }
 
-/// Closes what it watches when that is tapped.
-class TapCloser : public QObject
+void PenColorPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT closeSignal();
+        return;
+    }
+    QFrame::keyPressEvent(event);
+}
+
+/// Closes what it watches when that is tapped, or by Escape.
+class Closer : public QObject
 {
 public:
-    explicit TapCloser(QWidget* widget)
+    explicit Closer(QWidget* widget)
         : QObject(widget)
     {
         widget->installEventFilter(this);
@@ -83,7 +96,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::MouseButtonRelease) {
+        const bool isTap = event->type() == QEvent::MouseButtonRelease;
+        const bool isEscape = event->type() == QEvent::KeyPress
+            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+        if (!isTap && !isEscape) {
             return QObject::eventFilter(watched, event);
         }
         static_cast<QWidget*>(parent())->close();
@@ -259,7 +275,7 @@ void openOverlay()
     overlay->move(0, 60); // below the bar that stays bright
     overlay->show();
     //! [OxTransparentOverlay]
-    new TapCloser(overlay);
+    new Closer(overlay);
     waitUntilDeleted(overlay);
 }
 

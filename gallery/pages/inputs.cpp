@@ -113,11 +113,13 @@ void showOxTextEdit(Stage& stage)
     //! [OxTextEdit]
     auto* note = new OxTextEdit(QStringLiteral("Print <b>twice</b>."));
     // connect(note, &OxTextEdit::focusLostSignal, this, &NotePanel::storeNote);
+    note->setTabChangesFocus(true);
     //! [OxTextEdit]
     note->setFixedHeight(TextFieldHeight);
     stage.addWide(QStringLiteral("Reads its text as HTML"), note);
     stage.addStates([](const QString& text) {
         auto* field = new OxTextEdit(text);
+        field->setTabChangesFocus(true);
         field->setFixedHeight(TextFieldHeight);
         return field;
     });
@@ -127,11 +129,13 @@ void showOxPlainTextEdit(Stage& stage)
 {
     //! [OxPlainTextEdit]
     auto* comment = new OxPlainTextEdit(QStringLiteral("Print <b>twice</b>."));
+    comment->setTabChangesFocus(true);
     //! [OxPlainTextEdit]
     comment->setFixedHeight(TextFieldHeight);
     stage.addWide(QStringLiteral("Takes its text as it stands"), comment);
     stage.addStates([](const QString& text) {
         auto* field = new OxPlainTextEdit(text);
+        field->setTabChangesFocus(true);
         field->setFixedHeight(TextFieldHeight);
         return field;
     });

@@ -26,7 +26,9 @@ QWidget* createPanel(const QString& title, int fields)
     auto* layout = new QVBoxLayout(panel);
     layout->addWidget(new LineLabel(title, panel));
     for (int i = 1; i <= fields; ++i) {
-        layout->addWidget(new OxLineEdit(QStringLiteral("Field %1").arg(i), panel));
+        auto* field = new OxLineEdit(QStringLiteral("Field %1").arg(i), panel);
+        field->setAccessibleName(field->text());
+        layout->addWidget(field);
     }
     return panel;
 }

@@ -133,6 +133,7 @@ void showDragScrollTableView(Stage& stage)
     auto* table = new DragScrollTableView;
     table->setModel(createTable(table));
     table->setHorizontalMovementEnabled(true);
+    table->setTabKeyNavigation(false); // Tab leaves it, arrows move in it
     //! [DragScrollTableView]
     auto* other = new DragScrollTableView;
     other->setModel(createTable(other));

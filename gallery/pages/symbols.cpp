@@ -141,7 +141,10 @@ void showSymbolDatabaseWorker(Stage& stage)
     auto* thread = new WorkerThread(view);
     SymbolDatabaseWorker* worker = &thread->worker;
 
-    const auto showResults = [worker, items] {
+    // One search at a time: of two that end together, the second would hand out the same items.
+    const auto isBusy = std::make_shared<bool>(false);
+    const auto showResults = [worker, items, isBusy] {
+        *isBusy = false;
         items->clear();
         //! [SymbolDatabaseWorker]
         const QList<QStandardItem*> results = worker->getResults();
@@ -165,7 +168,11 @@ void showSymbolDatabaseWorker(Stage& stage)
     stage.watch(QStringLiteral("Worker"), worker);
     for (const QString& category :
          { QString(), QStringLiteral("Arrows"), QStringLiteral("Signs") }) {
-        stage.addAction(category.isEmpty() ? QStringLiteral("All") : category, [worker, category] {
+        stage.addAction(category.isEmpty() ? QStringLiteral("All") : category, [=] {
+            if (*isBusy) {
+                return;
+            }
+            *isBusy = true;
             //! [SymbolDatabaseWorker]
             QMetaObject::invokeMethod(worker, [=] { worker->getItemsBySearch(category); });
             //! [SymbolDatabaseWorker]
