@@ -246,9 +246,12 @@ void TestSymbolsMenu::everyTextIsTranslatedWithItsComment()
 {
     TranslationRecorder recorder("SymbolsMenu");
     const Subject subject;
-    QCOMPARE(
-        recorder.texts(),
-        QStringList(QStringLiteral("All Categories / Categories header for showing all symbols.")));
+    QCOMPARE(recorder.texts(),
+             QStringList({
+                 QStringLiteral("Search / Accessible name of the symbols' search field."),
+                 QStringLiteral("Category / Accessible name of the symbols' categories."),
+                 QStringLiteral("All Categories / Categories header for showing all symbols."),
+             }));
 }
 
 void TestSymbolsMenu::canBeMadeWithAParentAlone()

@@ -565,6 +565,7 @@ void OxFileDialog::createFilters(const OxFileDialogArgs& args)
 void OxFileDialog::createFileList()
 {
     m_fileList = new DragScrollListView(this);
+    m_fileList->setAccessibleName(tr("Files", "Accessible name of the list of files and folders."));
     m_fileList->setFixedSize(400, 305);
     m_fileList->setStyleSheet(fileListStyle());
     m_fileList->setModel(m_model->itemModel());
@@ -653,6 +654,7 @@ QLayout* OxFileDialog::createLists()
     header->setAlignment(Qt::AlignCenter);
     header->setFixedHeight(25);
     header->setStyleSheet(QStringLiteral("color: white; background-color: #5A5959; font:bold;"));
+    m_favoritesList->setAccessibleName(header->text());
 
     auto* favorites = new QVBoxLayout;
     favorites->setContentsMargins(0, 0, 0, 0);

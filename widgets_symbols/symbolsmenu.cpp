@@ -123,6 +123,7 @@ void SymbolsMenu::createSearchField()
 {
     m_searchField = new SymbolsLineEdit(this);
     m_searchField->setWindowIcon(Look::icon(QStringLiteral(LOOK_IMAGE_SEARCH_WINDOW)));
+    m_searchField->setAccessibleName(tr("Search", "Accessible name of the symbols' search field."));
 
     auto* completer = new QCompleter(m_model->tags(), m_searchField);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
@@ -142,6 +143,7 @@ void SymbolsMenu::createCategoryBox(const QList<QString>& categoryNames)
 {
     m_categoryBox = new ClickableComboBox(this);
     m_categoryBox->setStyleSheet(Look::whiteComboBox());
+    m_categoryBox->setAccessibleName(tr("Category", "Accessible name of the symbols' categories."));
     // A long name must not make the menu a wide one.
     m_categoryBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_categoryBox->addItems(categoryNames);

@@ -50,4 +50,5 @@ void prepareSymbolView(QListView* view, const QSize& grid)
     view->setFrameShape(QFrame::NoFrame);
     // Otherwise the view asks each symbol for its icon before it shows the first one.
     view->setUniformItemSizes(true);
+    view->setAccessibleName(QObject::tr("Symbols", "Accessible name of a list of symbols."));
 }
