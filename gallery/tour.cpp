@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QStyleHints>
@@ -19,6 +20,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace Gallery {
 
@@ -26,6 +28,7 @@ namespace {
 
 constexpr int DialogPatience = 5000; // milliseconds until a dialog counts as missing
 constexpr int ListPatience = 1000; // milliseconds until an empty list counts as one
+constexpr int PollInterval = 20; // milliseconds between two looks at a dialog
 
 /// All windows that can be seen, in the order in which they were made: that is how they stack.
 QWidgetList visibleWindows()
@@ -82,13 +85,17 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     waited.start();
     QTimer poll;
     bool over = false;
+    QImage seen; // what the dialog looked like last time: it is done when it no longer changes
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         QWidget* dialog = windowInFrontOf(window);
         if (dialog == nullptr && (over || waited.elapsed() < DialogPatience)) {
             return;
         }
-        if (!over && dialog != nullptr && hasEmptyList(dialog) && waited.elapsed() < ListPatience) {
-            return;
+        if (!over && dialog != nullptr && waited.elapsed() < ListPatience) {
+            const QImage before = std::exchange(seen, dialog->grab().toImage());
+            if (seen != before || hasEmptyList(dialog)) {
+                return;
+            }
         }
         if (dialog == nullptr) {
             std::fprintf(stderr, "no dialog for %s\n", qUtf8Printable(path));
@@ -102,7 +109,7 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
             dialog->close();
         }
     });
-    poll.start(0);
+    poll.start(PollInterval);
     state.open();
     return saved;
 }
