@@ -22,7 +22,7 @@ class TestSymbolItem : public Test
 private Q_SLOTS:
     void showsItsValuesUnderTheirRoles();
     void anItemShownAsIconHasNoBytes();
-    void anAddedIconLeavesTheBytes();
+    void aPickableItemHasAnIconAndStaysAsItIsOtherwise();
     void anIconThatTheCacheHasForgottenIsMadeAgain();
     void theCacheBoundsTheMemoryOfIcons();
     void aThumbnailThatDoesNotDecodeIsANullIcon();
@@ -86,18 +86,28 @@ void TestSymbolItem::anItemShownAsIconHasNoBytes()
     QCOMPARE(item.data(IdRole), QVariant(7));
 }
 
-void TestSymbolItem::anAddedIconLeavesTheBytes()
+void TestSymbolItem::aPickableItemHasAnIconAndStaysAsItIsOtherwise()
 {
     SymbolItem item(QStringLiteral("cat"), 7, png(Qt::red));
     QVERIFY(!item.data(Qt::DecorationRole).isValid());
-    item.addIcon();
+    item.becomePickable();
     QCOMPARE(colourOf(item), QColor(Qt::red));
     QCOMPARE(item.data(ThumbnailRole), QVariant(png(Qt::red)));
+    QCOMPARE(item.toolTip(), QStringLiteral("cat"));
+    QStandardItem likewise;
+    likewise.setEditable(false);
+    QCOMPARE(item.flags(), likewise.flags());
 
     SymbolItem plain(QStringLiteral("cat"), 7, QByteArray());
     plain.setData(png(Qt::blue), ThumbnailRole);
-    plain.addIcon();
+    plain.becomePickable();
     QCOMPARE(colourOf(plain), QColor(Qt::blue));
+    QCOMPARE(plain.flags(), likewise.flags());
+
+    SymbolItem icon(QStringLiteral("cat"), 7, png(Qt::red), SymbolItem::Icon);
+    icon.becomePickable();
+    QCOMPARE(colourOf(icon), QColor(Qt::red));
+    QVERIFY(!icon.data(ThumbnailRole).isValid());
 }
 
 void TestSymbolItem::anIconThatTheCacheHasForgottenIsMadeAgain()

@@ -11,8 +11,8 @@
 
 #include <QFile>
 #include <QIcon>
+#include <QMutex>
 #include <QPixmap>
-#include <QProcess>
 #include <QSet>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -21,6 +21,12 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <vector>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -29,13 +35,37 @@ constexpr int NoSymbol = -1;
 
 /// Has the buffers of the file system written to the medium. Nobody waits for it, not even who
 /// reads what this program prints: it would keep that pipe open.
+///
+/// Not by QProcess, which forks: with a large library in memory, that takes milliseconds, and
+/// everything that is written afterwards must be made writable again page by page, which takes
+/// longer than showing the library.
 void startSync()
 {
-    QProcess sync;
-    sync.setProgram(QStringLiteral("sync"));
-    sync.setStandardOutputFile(QProcess::nullDevice());
-    sync.setStandardErrorFile(QProcess::nullDevice());
-    sync.startDetached();
+    static QMutex mutex;
+    static std::vector<pid_t> started;
+    const QMutexLocker lock(&mutex);
+    // Those that have ended since: nobody else does it.
+    const auto hasEnded = [](pid_t process) {
+        return waitpid(process, nullptr, WNOHANG) != 0;
+    };
+    started.erase(std::remove_if(started.begin(), started.end(), hasEnded), started.end());
+
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    // It survives the end of this process, and of its terminal.
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_adddup2(&files, STDOUT_FILENO, STDERR_FILENO);
+    char name[] = "sync";
+    char* const arguments[] = { name, nullptr };
+    pid_t process = 0;
+    if (posix_spawnp(&process, name, &files, &attributes, arguments, environ) == 0) {
+        started.push_back(process);
+    }
+    posix_spawn_file_actions_destroy(&files);
+    posix_spawnattr_destroy(&attributes);
 }
 
 int toId(const QVariant& value)

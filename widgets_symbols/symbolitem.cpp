@@ -23,16 +23,20 @@ SymbolItem::SymbolItem(QString name, int id, QByteArray thumbnail, Picture pictu
     , m_picture(picture)
 { }
 
-void SymbolItem::addIcon()
+void SymbolItem::becomePickable()
 {
     if (m_isPlain) {
         QPixmap pixmap;
         pixmap.loadFromData(data(ThumbnailRole).toByteArray());
         QStandardItem::setData(QIcon(pixmap), Qt::DecorationRole);
+        setEditable(false);
         return;
     }
-    m_picture = BytesAndIcon;
-    emitDataChanged();
+    if (m_picture == Bytes) {
+        m_picture = BytesAndIcon;
+    }
+    m_flags = int(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled
+                  | Qt::ItemIsDropEnabled);
 }
 
 QVariant SymbolItem::data(int role) const
@@ -121,10 +125,8 @@ void SymbolItem::becomePlain()
 void appendSymbols(QStandardItemModel& model, const QList<QStandardItem*>& items)
 {
     for (QStandardItem* item : items) {
-        item->setEditable(false);
-        auto* symbol = dynamic_cast<SymbolItem*>(item);
-        if (symbol != nullptr && symbol->data(ThumbnailRole).isValid()) {
-            symbol->addIcon();
+        if (auto* symbol = dynamic_cast<SymbolItem*>(item)) {
+            symbol->becomePickable();
         }
     }
     if (!items.isEmpty()) {

@@ -28,8 +28,9 @@ public:
 
     SymbolItem(QString name, int id, QByteArray thumbnail, Picture picture = Bytes);
 
-    /// Shows the thumbnail, whatever it was shown as before, as bytes and as icon.
-    void addIcon();
+    /// Becomes what a person picks from: not editable, and with an icon. What else it shows stays.
+    /// For an item that is in no model yet.
+    void becomePickable();
 
     QVariant data(int role = Qt::UserRole + 1) const override;
     void setData(const QVariant& value, int role = Qt::UserRole + 1) override;
