@@ -453,7 +453,8 @@ void TestSymbolDatabaseWidget::everyTextIsTranslatedWithItsComment()
         }));
     QCOMPARE(sorted(general.texts()),
              sorted({ QStringLiteral("All / Section header for showing all symbols."),
-                      QStringLiteral("User Symbols / Header label for symbol insert menu.") }));
+                      QStringLiteral("User Symbols / Header label for symbol insert menu."),
+                      QStringLiteral("Symbols / Accessible name of a list of symbols.") }));
 }
 
 void TestSymbolDatabaseWidget::theFrameIsOrangeAndTheSizeFixedAtTheStart()
