@@ -73,54 +73,62 @@ bool isDigit(QChar c)
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-/// Where the number that starts at `from` ends.
-qsizetype endOfNumber(QStringView text, qsizetype from)
+bool isLetter(QChar c)
 {
-    qsizetype at = from;
+    const char16_t lower = c.unicode() | 0x20;
+    return c.unicode() < 128 ? lower >= u'a' && lower <= u'z' : c.isLetter();
+}
+
+/// Of which part of a document's text the numbers are looked at. This is done to each character of
+/// each drawing: whatever can be decided by a few comparisons is.
+enum class Notation {
+    Numbers, ///< numbers follow letters directly, as in a path
+    Css, ///< digits after a letter belong to a name, after a hash sign to a colour
+};
+
+/// Whether the number that starts at `at` is absurd; `at` then is where it ends.
+bool isAbsurdNumber(QStringView text, qsizetype& at)
+{
+    const qsizetype start = at;
     const auto skipDigits = [&] {
         while (at < text.size() && isDigit(text[at])) {
             ++at;
         }
     };
     skipDigits();
+    // Seven digits and less are no more than the maximum.
+    bool isSuspicious = at - start > 7;
     if (at < text.size() && text[at] == QLatin1Char('.')) {
         ++at;
         skipDigits();
     }
-    if (at + 1 < text.size() && text[at].toLower() == QLatin1Char('e')) {
+    if (at + 1 < text.size() && (text[at].unicode() | 0x20) == u'e') {
         const bool isSigned = text[at + 1] == QLatin1Char('-') || text[at + 1] == QLatin1Char('+');
         const qsizetype exponent = at + (isSigned ? 2 : 1);
         if (exponent < text.size() && isDigit(text[exponent])) {
             at = exponent;
             skipDigits();
+            isSuspicious = true;
         }
     }
-    return at;
+    return isSuspicious && text.mid(start, at - start).toDouble() > MaximumNumber;
 }
-
-enum class Notation {
-    Numbers, ///< numbers follow letters directly, as in a path
-    Css, ///< digits after a letter belong to a name, after a hash sign to a colour
-};
 
 bool hasAbsurdNumber(QStringView text, Notation notation)
 {
     qsizetype at = 0;
     while (at < text.size()) {
         const QChar c = text[at];
-        if (notation == Notation::Css && (c == QLatin1Char('#') || c.isLetter() || c == u'_')) {
+        if (notation == Notation::Css && (c == QLatin1Char('#') || isLetter(c) || c == u'_')) {
             do {
                 ++at;
             } while (at < text.size()
-                     && (text[at].isLetterOrNumber() || text[at] == u'_' || text[at] == u'-'));
+                     && (isLetter(text[at]) || text[at].isNumber() || text[at] == u'_'
+                         || text[at] == u'-'));
         } else if (isDigit(c)) {
-            const qsizetype end = endOfNumber(text, at);
-            const QStringView number = text.mid(at, end - at);
-            // "1e9" is the shortest.
-            if (number.size() > 2 && number.toDouble() > MaximumNumber) {
+            if (isAbsurdNumber(text, at)) {
                 return true;
             }
-            at = end;
         } else {
             ++at;
         }
@@ -163,11 +171,12 @@ bool isGeometry(QStringView attribute)
 
 bool hasAbsurdNumber(const QXmlStreamAttribute& attribute)
 {
+    // The names come last: hardly any attribute has such a number.
+    const QStringView value = attribute.value();
     if (attribute.qualifiedName() == QLatin1String("style")) {
-        return hasAbsurdNumber(attribute.value(), Notation::Css);
+        return hasAbsurdNumber(value, Notation::Css);
     }
-    return isGeometry(attribute.qualifiedName())
-        && hasAbsurdNumber(attribute.value(), Notation::Numbers);
+    return hasAbsurdNumber(value, Notation::Numbers) && isGeometry(attribute.qualifiedName());
 }
 
 /// Whether an image stands inside the document and is a bitmap of bearable size. An SVG inside an
