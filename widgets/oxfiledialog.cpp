@@ -18,6 +18,7 @@
 #include "look/images.h"
 #include "look/palette.h"
 #include "look/sheets.h"
+#include "oxfileiconprovider.h"
 #include "oxiconitemdelegate.h"
 #include "qcopchannel.h"
 #include "sharedconstants.h"
@@ -164,7 +165,7 @@ OxFileDialog::OxFileDialog(QWidget* parent, Qt::WindowFlags flags)
 OxFileDialog::OxFileDialog(QWidget* parent, const OxFileDialogArgs& args, DialogState state)
     : OxFileDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
-    m_model = std::make_unique<FileDialogModel>();
+    m_model = std::make_unique<FileDialogModel>(OxFileIconProvider());
     m_favorites = std::make_unique<FileDialogFavorites>();
     m_media = std::make_unique<FileDialogMedia>();
     m_state = state;
@@ -568,7 +569,7 @@ void OxFileDialog::createFileList()
     m_fileList->setAccessibleName(tr("Files", "Accessible name of the list of files and folders."));
     m_fileList->setFixedSize(400, 305);
     m_fileList->setStyleSheet(fileListStyle());
-    m_fileList->setModel(m_model->itemModel());
+    m_fileList->setModel(m_model.get());
     m_fileList->setUniformItemSizes(true);
     m_fileList->setIconSize(IconButtonSize);
     m_fileList->setItemDelegate(new OxIconItemDelegate(m_fileList));
@@ -830,7 +831,7 @@ void OxFileDialog::removeMedium(const QString& path)
 
 void OxFileDialog::showFolder(const QString& path)
 {
-    m_fileList->setRootIndex(m_model->setFolder(path));
+    m_model->setFolder(path);
     m_fileList->scrollToTop();
 }
 
