@@ -42,6 +42,11 @@ constexpr int IdRole = Qt::UserRole + 1;
 /// Where a single item keeps its document.
 constexpr int DataRole = Qt::UserRole + 1;
 
+QString threadName()
+{
+    return QStringLiteral("SymbolLibrary");
+}
+
 QString allLabel()
 {
     return QObject::tr("All", "Section header for showing all symbols.");
@@ -123,6 +128,7 @@ class SymbolDatabaseWidget::LibraryThread : public QThread
 public:
     LibraryThread()
     {
+        setObjectName(threadName());
         worker.moveToThread(this);
         start(QThread::InheritPriority);
     }
@@ -148,6 +154,8 @@ public:
             return;
         }
         thread->setParent(QCoreApplication::instance());
+        // Before Qt's own one, which takes the databases away from whoever still uses them.
+        qAddPostRoutine(waitForThreads);
         connect(thread.get(), &QThread::finished, thread.get(), &QObject::deleteLater);
         if (thread->isFinished()) { // before it was connected
             thread->deleteLater();
@@ -156,6 +164,13 @@ public:
     }
 
     SymbolDatabaseWorker worker;
+
+private:
+    static void waitForThreads()
+    {
+        qDeleteAll(QCoreApplication::instance()->findChildren<QThread*>(
+            threadName(), Qt::FindDirectChildrenOnly));
+    }
 };
 
 SymbolDatabaseWidget::SymbolDatabaseWidget(QWidget* parent)
