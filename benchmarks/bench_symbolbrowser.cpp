@@ -87,7 +87,7 @@ public:
     }
 
     /// Runs the event loop until the frame is there, and half a second more for what comes after.
-    Figures run()
+    Figures run() const
     {
         Figures figures;
         qint64 painted = 0;
@@ -280,6 +280,7 @@ Figures median(const std::vector<Figures>& rounds)
 {
     const auto of = [&rounds](double Figures::*member) {
         std::vector<double> values;
+        values.reserve(rounds.size());
         for (const Figures& figures : rounds) {
             values.push_back(figures.*member);
         }
