@@ -5,6 +5,7 @@
 
 #include "look/icons.h"
 #include "look/images.h"
+#include "look/palette.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -17,6 +18,13 @@ QPushButton* Look::createTitleBarCloseButton(QWidget* parent, const QSize& size)
     button->setIcon(icon(QStringLiteral(LOOK_IMAGE_CLOSE)));
     button->setIconSize(size);
     button->setFixedSize(size);
+    // Its own sheet, so that the rules for a dialog's push buttons neither frame nor stretch it.
+    button->setStyleSheet(
+        QStringLiteral("QPushButton { border: none; background: none; min-width: %1px;"
+                       " min-height: %2px; }\n"
+                       "QPushButton:pressed { background-color: " LOOK_ACCENT_ORANGE "; }")
+            .arg(size.width())
+            .arg(size.height()));
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
     button->setAccessibleName(QCoreApplication::translate(

@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -65,6 +66,10 @@ private Q_SLOTS:
     void layoutHoldsTitleSpacerAndCloseButtonInThisOrder();
     void spacerGrowsAndShrinksBetweenTitleAndCloseButton_data();
     void spacerGrowsAndShrinksBetweenTitleAndCloseButton();
+    void theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft_data();
+    void theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft();
+    void aLongTitleMakesNoDialogWider();
+    void rulesForADialogsButtonsLeaveTheCloseButtonAlone();
     void ownsItsChildren();
     void tapOnTheCloseButtonIsReportedOnceAndClosesNothing();
     void hiddenCloseButtonKeepsItsPlaceInTheLayout();
@@ -215,6 +220,64 @@ void TestContainerTitleBar::spacerGrowsAndShrinksBetweenTitleAndCloseButton()
     QCOMPARE(bar->width(), width);
     QCOMPARE(titleLabel(*bar)->x(), 10);
     QCOMPARE(closeButton(*bar)->x(), width - 10 - 34);
+}
+
+void TestContainerTitleBar::theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft_data()
+{
+    QTest::addColumn<int>("spare");
+
+    QTest::newRow("room for all") << 185;
+    QTest::newRow("half of the spacer") << 90;
+    QTest::newRow("no spacer") << 0;
+    QTest::newRow("a part of the title") << -40;
+}
+
+void TestContainerTitleBar::theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft()
+{
+    QFETCH(int, spare);
+    QWidget window;
+    ContainerTitleBar bar(&window, QStringLiteral("DATABASE SELECTOR"));
+    window.show();
+    const int whole = titleLabel(bar)->sizeHint().width();
+    const int beside = 2 * 10 + 34 + bar.layout()->spacing();
+
+    bar.resize(beside + whole + spare, 46);
+
+    QCOMPARE(titleLabel(bar)->width(), whole + qMin(spare, 0));
+    QCOMPARE(closeButton(bar)->geometry().right(), bar.width() - 10 - 1);
+}
+
+void TestContainerTitleBar::aLongTitleMakesNoDialogWider()
+{
+    QWidget dialog;
+    auto* bar = new ContainerTitleBar(&dialog,
+                                      QStringLiteral("A title as translators make it").repeated(9));
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(bar);
+    dialog.resize(200, 100);
+    dialog.show();
+    QCOMPARE(dialog.width(), 200);
+    QCOMPARE(closeButton(*bar)->geometry().right(), 200 - 10 - 1);
+}
+
+void TestContainerTitleBar::rulesForADialogsButtonsLeaveTheCloseButtonAlone()
+{
+    QWidget dialog;
+    dialog.setStyleSheet(QStringLiteral("QPushButton { min-width: 80px; min-height: 35px; "
+                                        "border: 3px solid red; background-color: red; }"));
+    ContainerTitleBar bar(&dialog, QStringLiteral("Layers"));
+    bar.resize(400, 46);
+    dialog.show();
+
+    QCOMPARE(closeButton(bar)->size(), QSize(34, 31));
+    QCOMPARE(bar.grab().toImage(), [] {
+        QWidget plain;
+        ContainerTitleBar other(&plain, QStringLiteral("Layers"));
+        other.resize(400, 46);
+        plain.show();
+        return other.grab().toImage();
+    }());
 }
 
 void TestContainerTitleBar::ownsItsChildren()

@@ -16,6 +16,8 @@
 namespace {
 
 constexpr int TitlePointSize = 14;
+/// Room for the close button and the beginning of a title, in pixels.
+constexpr int MinimumWidth = 120;
 
 } // namespace
 
@@ -30,6 +32,8 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
 
     // Children that are born under a sheet are styled once; those that move there, twice.
     m_titleLabel = new Look::TitleLabel(title, this);
+    // The spacer gives its room up before the title is cut.
+    m_titleLabel->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     m_closeButton = Look::createTitleBarCloseButton(this, CloseButtonSize);
 
     auto* layout = new QHBoxLayout;
@@ -39,6 +43,8 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
     layout->addWidget(m_closeButton, 0, Qt::AlignRight | Qt::AlignVCenter);
     setLayout(layout);
     setFixedHeight(46);
+    // In place of the layout's, which holds the whole title and would make a dialog that wide.
+    setMinimumWidth(MinimumWidth);
 
     connect(m_closeButton, &QPushButton::clicked, this, &ContainerTitleBar::closeButtonClicked);
 }
