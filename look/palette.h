@@ -18,12 +18,18 @@
 /// Background of dialogs and panels.
 #define LOOK_PANEL_GREY "#f2f2f2"
 
+/// The same grey as the sheet of the database selector writes it.
+#define LOOK_PANEL_GREY_UPPER_CASE "#F2F2F2"
+
 /// Background of title bars.
 #define LOOK_TITLE_CHARCOAL "#2b2b2b"
 
 /// Top and bottom of the vertical gradient of an enabled push button.
 #define LOOK_BUTTON_TOP "#5a5959"
 #define LOOK_BUTTON_BOTTOM "#060606"
+
+/// The same top as the sheet of the database selector writes it.
+#define LOOK_BUTTON_TOP_UPPER_CASE "#5A5959"
 
 /// Colorize effect of a push button for as long as a finger holds it down.
 #define LOOK_TOUCH_TINT "#ff5800"
@@ -36,6 +42,10 @@
 
 /// One-pixel border of a combo box.
 #define LOOK_COMBO_BORDER "#c6c6c6"
+
+/// Rule between the head and the text of a panel; frame of a list without the focus. The combo box's
+/// grey by accident only.
+#define LOOK_SEPARATOR "#c6c6c6"
 
 /// Handle of the 35 px wide scroll bars.
 #define LOOK_SCROLL_HANDLE "#464646"

@@ -23,6 +23,17 @@ QString Look::messageButton()
         "}");
 }
 
+QString Look::gradientButton()
+{
+    return QStringLiteral(
+        "QPushButton { border: 1px solid " LOOK_ACCENT_ORANGE "; color: white; font: bold; \n"
+        "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " LOOK_BUTTON_TOP
+        ", stop: 1 " LOOK_BUTTON_BOTTOM ");\n"
+        "border-radius: 6px; outline: 0;\n"
+        "min-height: 35px; }\n"
+        "QPushButton:pressed { background-color: " LOOK_ACCENT_ORANGE "; color: white; }\n");
+}
+
 QString Look::comboBox()
 {
     return QStringLiteral(
@@ -63,4 +74,17 @@ QString Look::scrollBars(int extent)
                "QScrollBar::left-arrow { image: url(" LOOK_IMAGE_ARROW_LEFT "); }\n"
                "QScrollBar::right-arrow { image: url(" LOOK_IMAGE_ARROW_RIGHT "); }\n")
         .arg(extent);
+}
+
+QString Look::dialogList()
+{
+    return QStringLiteral("QListWidget { border: 1px solid " LOOK_SEPARATOR
+                          "; background-color: white; outline: 0; }\n"
+                          "QListWidget:focus { border: 1px solid " LOOK_ACCENT_ORANGE "; }\n"
+                          // Only items with a background are drawn by the sheet: with its padding
+                          // and without the style's own focus frame.
+                          "QListWidget::item { background-color: white; padding: 4px 8px; }\n"
+                          "QListWidget::item:selected { background-color: " LOOK_ACCENT_ORANGE
+                          "; color: white; }\n")
+        + scrollBars();
 }

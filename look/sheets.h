@@ -25,6 +25,11 @@ QString framedPanel(const QString& selector);
 /// all three unlike the buttons of every other dialog.
 QString messageButton();
 
+/// Gradient button that turns orange under the finger. Ends in a line break, so that further rules
+/// can be appended. The minimum height counts what is inside the border: with it a button is 37
+/// pixels high, unless its size is fixed.
+QString gradientButton();
+
 // --- combo boxes --------------------------------------------------------------------------------
 
 /// Framed combo box with the house's arrow and a list of finger-sized entries, in the colours of
@@ -40,5 +45,11 @@ QString whiteComboBox();
 /// Scroll bars that a finger can press, with an arrow at each end, for whatever area or combo box
 /// has this sheet. `extent` is their width or height, border included, in pixels.
 QString scrollBars(int extent = 35);
+
+// --- lists --------------------------------------------------------------------------------------
+
+/// White list of a dialog with finger-sized scroll bars. Its frame is orange while it has the
+/// focus.
+QString dialogList();
 
 } // namespace Look

@@ -48,6 +48,8 @@ private Q_SLOTS:
     void paletteIsExact();
     void framedPanelEndsInABlank();
     void messageButtonHasABorderOfTwoPixelsAndNoPressedColour();
+    void gradientButtonTurnsOrangeAndEndsInALineBreak();
+    void dialogListEndsInTheScrollBars();
     void comboBoxEndsInALineBreakAndABlank();
     void whiteComboBoxBringsHeightAndScrollBars();
     void scrollBarsAreOfTheGivenExtent();
@@ -64,14 +66,17 @@ void TestSheets::paletteIsExact_data()
     add("accent orange", LOOK_ACCENT_ORANGE, "#fd7800");
     add("hover orange", LOOK_HOVER_ORANGE, "#fda800");
     add("panel grey", LOOK_PANEL_GREY, "#f2f2f2");
+    add("panel grey in upper case", LOOK_PANEL_GREY_UPPER_CASE, "#F2F2F2");
     add("title charcoal", LOOK_TITLE_CHARCOAL, "#2b2b2b");
     add("top of a button", LOOK_BUTTON_TOP, "#5a5959");
+    add("top of a button in upper case", LOOK_BUTTON_TOP_UPPER_CASE, "#5A5959");
     add("bottom of a button", LOOK_BUTTON_BOTTOM, "#060606");
     add("border of a disabled button", LOOK_DISABLED_BORDER, "#d3d3d3");
     add("text of a disabled button", LOOK_DISABLED_TEXT, "#848484");
     add("top of a disabled button", LOOK_DISABLED_TOP, "#d3d3d3");
     add("bottom of a disabled button", LOOK_DISABLED_BOTTOM, "#a8a8a8");
     add("border of a combo box", LOOK_COMBO_BORDER, "#c6c6c6");
+    add("separator", LOOK_SEPARATOR, "#c6c6c6");
     add("scroll bar handle", LOOK_SCROLL_HANDLE, "#464646");
     add("button under a finger", LOOK_TOUCH_TINT, "#ff5800");
     add("ticks of a slider", LOOK_SLIDER_TICK, "#a5a294");
@@ -105,6 +110,17 @@ void TestSheets::messageButtonHasABorderOfTwoPixelsAndNoPressedColour()
                             "}"));
 }
 
+void TestSheets::gradientButtonTurnsOrangeAndEndsInALineBreak()
+{
+    QCOMPARE(Look::gradientButton(),
+             QStringLiteral("QPushButton { border: 1px solid #fd7800; color: white; font: bold; \n"
+                            "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+                            "0 #5a5959, stop: 1 #060606);\n"
+                            "border-radius: 6px; outline: 0;\n"
+                            "min-height: 35px; }\n"
+                            "QPushButton:pressed { background-color: #fd7800; color: white; }\n"));
+}
+
 void TestSheets::comboBoxEndsInALineBreakAndABlank()
 {
     QCOMPARE(Look::comboBox(), ComboBox);
@@ -121,6 +137,18 @@ void TestSheets::scrollBarsAreOfTheGivenExtent()
 {
     QCOMPARE(Look::scrollBars(), ScrollBars.arg(35));
     QCOMPARE(Look::scrollBars(23), ScrollBars.arg(23));
+}
+
+void TestSheets::dialogListEndsInTheScrollBars()
+{
+    QCOMPARE(Look::dialogList(),
+             QStringLiteral("QListWidget { border: 1px solid #c6c6c6; background-color: white; "
+                            "outline: 0; }\n"
+                            "QListWidget:focus { border: 1px solid #fd7800; }\n"
+                            "QListWidget::item { background-color: white; padding: 4px 8px; }\n"
+                            "QListWidget::item:selected { background-color: #fd7800; color: white; "
+                            "}\n")
+                 + Look::scrollBars());
 }
 
 UW_TEST_MAIN(TestSheets)
