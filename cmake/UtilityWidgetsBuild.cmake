@@ -99,13 +99,16 @@ endfunction()
 # uw_add_classes(Class ...)
 #
 # Public classes of the shared library, one pair of files each in this folder, named after the class
-# in lower case.
+# in lower case, and for some a form of that name.
 function(uw_add_classes)
     set(headers)
     set(forwarding_headers)
     foreach(class IN LISTS ARGN)
         string(TOLOWER "${class}" base)
         target_sources(UtilityWidgets PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${base}.cpp")
+        if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${base}.ui")
+            target_sources(UtilityWidgets PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/${base}.ui")
+        endif()
         list(APPEND headers "${CMAKE_CURRENT_SOURCE_DIR}/${base}.h")
         uw_forwarding_header(forwarding_headers ${base}.h ${class})
     endforeach()

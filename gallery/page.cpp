@@ -9,9 +9,19 @@
 const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
-        lookFamily(),      dialogsFamily(),      filesFamily(),     inputsFamily(),
-        controlsFamily(),  coloursFamily(),      selectionFamily(), panelsFamily(),
-        scrollingFamily(), touchHelpersFamily(), symbolsFamily(),   platformFamily(),
+        lookFamily(),
+        dialogsFamily(),
+        applicationDialogsFamily(),
+        filesFamily(),
+        inputsFamily(),
+        controlsFamily(),
+        coloursFamily(),
+        selectionFamily(),
+        panelsFamily(),
+        scrollingFamily(),
+        touchHelpersFamily(),
+        symbolsFamily(),
+        platformFamily(),
     };
     return all;
 }

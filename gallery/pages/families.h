@@ -9,6 +9,7 @@
 
 namespace Gallery {
 
+Family applicationDialogsFamily();
 Family coloursFamily();
 Family controlsFamily();
 Family dialogsFamily();

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "utilitywidgets_export.h"
+
+#include <QFrame>
+
+class QVBoxLayout;
+
+/*!
+ * \brief A framed panel of menu items, one below the other, that tells when it loses the focus.
+ *
+ * Use it for a menu of large buttons that drops down over the page. The panel neither shows nor
+ * hides itself: give it the focus when you show it, and hide it when it reports the loss.
+ *
+ * \code
+ * auto* menu = new FileMenuWidget(this);
+ * auto* open = new QPushButton(tr("Open", "Item of the file menu."));
+ * open->setFocusPolicy(Qt::NoFocus);
+ * menu->addMenuItem(open);
+ * connect(menu, &FileMenuWidget::focusLost, menu, &QWidget::hide);
+ *
+ * menu->show();
+ * menu->setFocus();
+ * \endcode
+ *
+ * A tap on an item that accepts the focus takes it away from the panel, which would be hidden
+ * before the tap is over: hence Qt::NoFocus.
+ */
+class UTILITYWIDGETS_EXPORT FileMenuWidget : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// An empty panel.
+    explicit FileMenuWidget(QWidget* parent = nullptr);
+
+    /// Adds `item`, usually a button, below the others. All items share the height equally and
+    /// stand in its middle at the width they ask for. The panel owns `item` from now on.
+    void addMenuItem(QWidget* item);
+
+Q_SIGNALS:
+    /// The panel itself has lost the keyboard focus, for whatever reason, to one of its items too.
+    /// Not emitted when an item loses it, nor when a panel without the focus is hidden.
+    void focusLost();
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    QVBoxLayout* m_layout = nullptr;
+};
