@@ -9,18 +9,10 @@
 const QList<Gallery::Family>& Gallery::families()
 {
     static const QList<Family> all {
-        lookFamily(),
-        dialogsFamily(),
-        applicationDialogsFamily(),
-        filesFamily(),
-        inputsFamily(),
-        controlsFamily(),
-        coloursFamily(),
-        selectionFamily(),
-        panelsFamily(),
-        scrollingFamily(),
-        touchHelpersFamily(),
-        symbolsFamily(),
+        lookFamily(),      dialogsFamily(),      applicationDialogsFamily(),
+        filesFamily(),     inputsFamily(),       controlsFamily(),
+        coloursFamily(),   selectionFamily(),    panelsFamily(),
+        scrollingFamily(), touchHelpersFamily(), symbolsFamily(),
         platformFamily(),
     };
     return all;

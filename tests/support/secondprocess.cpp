@@ -5,13 +5,14 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QDir>
 
 #include <csignal>
 
 SecondProcess::SecondProcess(const QString& helper, const QStringList& arguments)
 {
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_process.start(QCoreApplication::applicationDirPath() + QLatin1Char('/') + helper, arguments);
+    m_process.start(QDir(QCoreApplication::applicationDirPath()).filePath(helper), arguments);
     m_process.waitForStarted();
 }
 

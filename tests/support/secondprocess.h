@@ -8,7 +8,8 @@
 /*!
  * A helper program that runs beside the test and is killed, at the latest, when this object dies.
  *
- * Helpers stand beside the test programs (tests/helpers) and talk in lines: what they print is
+ * Helpers stand beside the test programs (tests/helpers) unless a whole path says where, and talk in
+ * lines: what they print is
  * read with waitForLine(), what they are told is written with writeLine().
  */
 class SecondProcess
