@@ -11,7 +11,60 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QSqlDatabase>
+#include <QSqlDriver>
 #include <QSqlQuery>
+#include <QSqlResult>
+
+namespace {
+
+/// Opens everything and can do nothing.
+class DeafResult : public QSqlResult
+{
+public:
+    explicit DeafResult(const QSqlDriver* driver)
+        : QSqlResult(driver)
+    { }
+
+protected:
+    QVariant data(int) override { return {}; }
+    bool isNull(int) override { return true; }
+    bool reset(const QString&) override { return false; }
+    bool fetch(int) override { return false; }
+    bool fetchFirst() override { return false; }
+    bool fetchLast() override { return false; }
+    int size() override { return -1; }
+    int numRowsAffected() override { return -1; }
+};
+
+class DeafDriver : public QSqlDriver
+{
+public:
+    bool hasFeature(DriverFeature) const override { return false; }
+    bool open(const QString&, const QString&, const QString&, const QString&, int,
+              const QString&) override
+    {
+        setOpen(true);
+        return true;
+    }
+    void close() override { setOpen(false); }
+    QSqlResult* createResult() const override { return new DeafResult(this); }
+};
+
+/// Has the deaf driver used in place of SQLite's for as long as it lives.
+class StandInForSqlite
+{
+public:
+    StandInForSqlite()
+    {
+        QSqlDatabase::registerSqlDriver(QStringLiteral("QSQLITE"),
+                                        new QSqlDriverCreator<DeafDriver>);
+    }
+    ~StandInForSqlite() { QSqlDatabase::registerSqlDriver(QStringLiteral("QSQLITE"), nullptr); }
+
+    Q_DISABLE_COPY_MOVE(StandInForSqlite)
+};
+
+} // namespace
 
 class TestSymbolDatabaseModel : public Test
 {
@@ -33,6 +86,7 @@ private Q_SLOTS:
     void openingTwiceIsRefusedAndReported();
     void openingForReadingAllowsNoChange();
     void foreignKeysAreOnInEveryConnection();
+    void foreignKeysThatCannotBeSwitchedOnAreReportedOnly();
     void aFolderThatIsNotThereIsReportedAndLeavesNoConnection();
     void aFolderThatCannotBeWrittenIsReported();
     void closingWhatIsNotOpenIsReported();
@@ -63,6 +117,7 @@ private Q_SLOTS:
     void aFileThatIsNoDatabaseIsReportedAndLeftAsItIs();
     void aDamagedPageIsReported();
     void aLockedDatabaseIsReported();
+    void aWriterIsRefusedInTheMiddleOfAnothersTransaction();
 
     void messagesCarryCommentsForTranslators();
 
@@ -248,6 +303,18 @@ void TestSymbolDatabaseModel::foreignKeysAreOnInEveryConnection()
         }
         database.model.close();
     }
+}
+
+void TestSymbolDatabaseModel::foreignKeysThatCannotBeSwitchedOnAreReportedOnly()
+{
+    SymbolDatabase database(SymbolDatabase::Schema);
+    const StandInForSqlite standIn;
+    QVERIFY(database.model.open(false));
+    QCOMPARE(database.takeErrors(),
+             QStringList(QStringLiteral("Failed to enable foreign key support")));
+    QVERIFY(database.model.database().isOpen());
+    database.model.close();
+    QCOMPARE(database.takeErrors(), QStringList());
 }
 
 void TestSymbolDatabaseModel::aFolderThatIsNotThereIsReportedAndLeavesNoConnection()
@@ -632,6 +699,31 @@ void TestSymbolDatabaseModel::aLockedDatabaseIsReported()
     other.model.close();
     QVERIFY(database.model.addTag(QStringLiteral("a")));
     QCOMPARE(database.takeErrors(), QStringList());
+}
+
+void TestSymbolDatabaseModel::aWriterIsRefusedInTheMiddleOfAnothersTransaction()
+{
+    SymbolDatabase database(SymbolDatabase::Symbols);
+    SymbolDatabaseModel other;
+    other.setDatabasePath(database.path());
+    QVERIFY(other.open(false) && other.startTransaction());
+    QVERIFY(other.addTagWhileOpen(QStringLiteral("first")));
+
+    // It has looked up the category by then, and SQLite lets no reader wait to become a writer:
+    // the two might wait for each other.
+    QVERIFY(
+        !database.model.addSymbol("svg", "png", QStringLiteral("dog"), QStringLiteral("Animals")));
+    const QStringList errors = database.takeErrors();
+    QCOMPARE(errors.count(), 1);
+    QVERIFY2(errors.constFirst().contains(QLatin1String("database is locked")),
+             qPrintable(errors.constFirst()));
+
+    QVERIFY(other.endTransaction());
+    other.close();
+    QVERIFY(
+        database.model.addSymbol("svg", "png", QStringLiteral("dog"), QStringLiteral("Animals")));
+    QCOMPARE(database.takeErrors(), QStringList());
+    QVERIFY(database.model.tags().contains(QStringLiteral("first")));
 }
 
 void TestSymbolDatabaseModel::messagesCarryCommentsForTranslators()

@@ -41,6 +41,11 @@ class QStandardItem;
  * Whoever changes the database keeps what was changed before a failure: a failure inside a
  * transaction does not undo it.
  *
+ * Of two that change one file at the same moment, one may be refused with "database is locked" in its
+ * message, at once or after five seconds: nothing is lost, and it can try again. No transaction takes
+ * the right to write before its first change, so that readers are kept waiting no longer than need
+ * be.
+ *
  * Nothing throws. An operation that fails emits errorOccured() and returns false, -1, or something
  * empty. One model belongs to one thread at a time and must not be destroyed during an operation.
  * Ids are never reused; -1 is none. On a thread whose interruption has been requested (see
