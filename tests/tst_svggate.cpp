@@ -66,10 +66,10 @@ QByteArray gzip(const QByteArray& data)
     return packed;
 }
 
-QByteArray imageOf(const QByteArray& format, const QByteArray& mimeType)
+QByteArray imageOf(const QByteArray& format, const QByteArray& mimeType, int side = 4)
 {
-    QImage image(4, 4, QImage::Format_RGB32);
-    image.fill(Qt::blue);
+    QImage image(side, side, QImage::Format_Mono);
+    image.fill(0);
     QByteArray data;
     QBuffer buffer(&data);
     buffer.open(QBuffer::WriteOnly);
@@ -119,6 +119,10 @@ void TestSvgGate::aHarmlessDrawingPassesUnchanged_data()
     QTest::newRow("style sheet") << svg("<style>.a{fill:#123456789;font-size:12px}</style>");
     QTest::newRow("long names and colours")
         << svg("<g style='fill:url(#gradient123456789);stroke:#00000000;stroke-width:.5'/>");
+    QTest::newRow("names of other letters")
+        << svg("<style>.ä123456789{fill:red}</style><g style='fill:url(ä123456789)'/>");
+    QTest::newRow("undeclared prefix") << svg("<maker:note maker:day='1'/>");
+    QTest::newRow("seven digits") << svg("<rect x='9999999.99999999' y='00010000000'/>");
     QTest::newRow("small and large factors")
         << svg("<g transform='matrix(1e-9,0,0,1e6,0,0)'><path d='M0 0L9999999 1'/></g>");
     QTest::newRow("repetition") << svg("<g id='a'/><use xlink:href='#a'/><use href='#b'/>");
@@ -153,6 +157,8 @@ void TestSvgGate::whatIsTakenAway_data()
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<QString>("what");
     const QString files = QStringLiteral("references to files");
+    const QString bitmaps =
+        QStringLiteral("embedded images other than bitmaps of 4096 x 4096 pixels");
     const QString repeat = QStringLiteral("elements that repeat themselves");
     const QString deep = QStringLiteral("nesting deeper than 200 levels");
     const QString absurd = QStringLiteral("elements of absurd size");
@@ -162,14 +168,15 @@ void TestSvgGate::whatIsTakenAway_data()
     add("an image file", "<image width='9' height='9' xlink:href='/a.png'/>", files);
     add("an image file without prefix", "<image width='9' height='9' href='file:///a.png'/>",
         files);
+    add("an image of too many pixels", imageOf("PNG", "image/png", 5000), bitmaps);
     add("an SVG in an image",
         "<image width='9' height='9' xlink:href='data:image/svg+xml;base64," + svg("").toBase64()
             + "'/>",
-        files);
+        bitmaps);
     add("an SVG that calls itself PNG",
         "<image width='9' height='9' xlink:href='data:image/png;base64," + svg("").toBase64()
             + "'/>",
-        files);
+        bitmaps);
     add("an element of another file", "<use xlink:href='other.svg#a'/>", files);
     add("a font file", "<font-face-uri xlink:href='a.ttf'/>", files);
     QTest::newRow("a style sheet file")
@@ -191,6 +198,7 @@ void TestSvgGate::whatIsTakenAway_data()
         QStringLiteral("repetitions beyond 500000 elements"));
 
     add("a wide rectangle", "<rect width='1e9' height='1e9'/>", absurd);
+    add("a large exponent in capitals", "<rect width='1E9'/>", absurd);
     add("far coordinates", "<path d='M0,0L100000000-5'/>", absurd);
     add("a large font", "<text style='font-size:99999999px'>a</text>", absurd);
     add("a large factor", "<g transform='scale(1e30)'><rect/></g>", absurd);

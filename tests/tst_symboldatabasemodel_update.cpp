@@ -5,12 +5,15 @@
 
 #include "symboldatabasemodel.h"
 
+#include "widgets_symbols/symbolfolder.h"
+
 #include "support/symboldatabase.h"
 #include "support/syncstandin.h"
 #include "support/test.h"
 
 #include <QDir>
 #include <QSqlDatabase>
+#include <QThread>
 
 class TestSymbolUpdate : public Test
 {
@@ -31,12 +34,14 @@ private Q_SLOTS:
     void whatWasAddedIsLogged();
     void aMissingFolderIsAnEmptyUpdate();
     void aFileThatCannotBeStoredUndoesEverything();
+    void aFailedUpdateIsUndoneBeforeTheConnectionIsClosed();
     void aCategoryThatCannotBeAddedDoesNotUndoTheRest();
     void theConnectionStaysOpenWhateverTheResult();
     void withoutATransactionNothingIsDone();
     void aCommitThatFailsIsAFailure();
     void syncIsStartedTwice();
     void aLargeFolderIsStoredInItsOrder();
+    void readingAheadEndsWithItsReader();
     void canBeInvokedByName();
     void anObserverIsToldOfEachDrawing();
     void anObserverIsToldWhatFailedAfterWhy();
@@ -293,6 +298,19 @@ void TestSymbolUpdate::aFileThatCannotBeStoredUndoesEverything()
     QCOMPARE(log.texts(), QStringList());
 }
 
+void TestSymbolUpdate::aFailedUpdateIsUndoneBeforeTheConnectionIsClosed()
+{
+    draw(QStringLiteral("Signs/empty.svg"), QByteArray());
+    SymbolDatabase database(SymbolDatabase::Schema);
+    QVERIFY(!database.model.updateDatabase(root()));
+    database.takeErrors();
+    QCOMPARE(database.model.getCategoriesWhileOpen(), QStringList());
+    QVERIFY(database.model.startTransaction());
+    QVERIFY(database.model.endTransaction());
+    database.model.close();
+    QCOMPARE(database.takeErrors(), QStringList());
+}
+
 void TestSymbolUpdate::aCategoryThatCannotBeAddedDoesNotUndoTheRest()
 {
     QDir().mkpath(m_folder->filePath(QStringLiteral("bad")));
@@ -391,6 +409,21 @@ void TestSymbolUpdate::aLargeFolderIsStoredInItsOrder()
                  filledSvg("red", 10 + i, 10));
     }
     QCOMPARE(database.takeErrors(), QStringList());
+}
+
+void TestSymbolUpdate::readingAheadEndsWithItsReader()
+{
+    QStringList paths;
+    for (int i = 0; i < 100; ++i) {
+        draw(QStringLiteral("Signs/%1.svg").arg(i));
+        paths.append(m_folder->filePath(QStringLiteral("Signs/%1.svg").arg(i)));
+    }
+    for (int taken = 0; taken < 3; ++taken) {
+        SymbolReader reader(paths);
+        for (int i = 0; i < taken; ++i) {
+            QCOMPARE(reader.next().data, filledSvg("red"));
+        }
+    }
 }
 
 void TestSymbolUpdate::canBeInvokedByName()

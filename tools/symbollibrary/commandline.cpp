@@ -137,7 +137,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     line.arguments = words.mid(1);
     line.flags = options;
     if (parser.isSet(QStringLiteral("category"))) {
-        line.category = parser.value(QStringLiteral("category"));
+        // Empty is a name as well, which no category has.
+        line.category = QLatin1String("") + parser.value(QStringLiteral("category"));
     }
     return line;
 }
