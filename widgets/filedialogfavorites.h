@@ -24,8 +24,12 @@ public:
     {
         QString name;
         QString path;
-        /// Whether there is something to keep: gaps have neither name nor path.
-        bool isComplete() const { return !name.isEmpty() && !path.isEmpty(); }
+        /// Whether there is something to keep: gaps have neither name nor path. What was written by
+        /// hand may hold what no path can.
+        bool isComplete() const
+        {
+            return !name.isEmpty() && !path.isEmpty() && !path.contains(QChar(QChar::Null));
+        }
     };
 
     /// All complete favourites, in the order of the array.

@@ -547,8 +547,11 @@ void OxFileDialog::createFilters(const OxFileDialogArgs& args)
     if (!args.selectedFilter.isEmpty()) {
         m_nameFilters = Rules::namePatterns(args.selectedFilter);
         m_formatBox->addItems(filter.split(QStringLiteral(";;"), Qt::SkipEmptyParts));
-        m_formatBox->setCurrentIndex(
-            m_formatBox->findText(args.selectedFilter, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        const int selected =
+            m_formatBox->findText(args.selectedFilter, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        if (selected >= 0) {
+            m_formatBox->setCurrentIndex(selected);
+        }
     } else if (m_state != SelectFolder) {
         if (filter.isEmpty()) {
             filter = QStringLiteral("*.txt");

@@ -5,7 +5,6 @@
 
 #include "support/finger.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -173,6 +172,13 @@ void FileDialogUser::receiveBytes(const QString& message, const QByteArray& cont
                               Q_ARG(QByteArray, content));
 }
 
+FileDialogApplication::FileDialogApplication(int& argc, char** argv)
+    : QApplication(argc, argv)
+{
+    setOrganizationName(QStringLiteral("UtilityWidgets"));
+    setApplicationName(QStringLiteral("file dialog test"));
+}
+
 FileDialogHome::FileDialogHome()
 {
     QDir(path()).removeRecursively();
@@ -193,3 +199,5 @@ QString FileDialogHome::addFile(const QString& name) const
     }
     return path(name);
 }
+
+#include "moc_filedialoguser.cpp"

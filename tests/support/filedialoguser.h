@@ -9,6 +9,8 @@
 #include "dragscrolllistwidget.h"
 #include "oxfiledialog.h"
 
+#include <QApplication>
+#include <QDataStream>
 #include <QDir>
 #include <QPushButton>
 
@@ -72,6 +74,15 @@ public:
         stream << content;
         return array;
     }
+};
+
+/// An application that can keep favourites: they are in its settings.
+class FileDialogApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    FileDialogApplication(int& argc, char** argv);
 };
 
 /// The home folder of the test, emptied, with a Desktop, until the next one is made. Also empties
