@@ -393,6 +393,7 @@ void TestOxFileDialog::thePartsHaveFixedSizes()
         QCOMPARE(user.cancel->width(), 80);
         QCOMPARE(user.files->size(), QSize(400, 305));
         QCOMPARE(user.favorites->size(), QSize(190, 280));
+        QCOMPARE(user.nameBox->minimumHeight(), 35); // not the 37 of its sheet
         QVERIFY(user.nameBox->isEditable());
         QVERIFY(user.accept->isDefault());
         QVERIFY(user.accept->autoDefault());

@@ -51,7 +51,7 @@ bool FileDialogMedia::replace(const QByteArray& data)
 
 std::optional<QString> FileDialogMedia::add(const QByteArray& data)
 {
-    const std::optional<QString> path = readPath(data);
+    std::optional<QString> path = readPath(data);
     if (!path || m_paths.contains(*path) || m_paths.size() >= MaximumCount) {
         return std::nullopt;
     }
@@ -61,7 +61,7 @@ std::optional<QString> FileDialogMedia::add(const QByteArray& data)
 
 std::optional<QString> FileDialogMedia::remove(const QByteArray& data)
 {
-    const std::optional<QString> path = readPath(data);
+    std::optional<QString> path = readPath(data);
     if (path) {
         m_paths.removeOne(*path);
     }

@@ -39,7 +39,7 @@ QString FileDialogRules::parentFolder(const QString& path)
 QString FileDialogRules::startFolder(const QString& path, const QString& topFolder,
                                      const QString& processFolder)
 {
-    const QString folder = path.isEmpty() ? topFolder : path;
+    QString folder = path.isEmpty() ? topFolder : path;
     if (!folder.contains(QLatin1Char('.'))) {
         return folder;
     }

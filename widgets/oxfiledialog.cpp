@@ -835,7 +835,6 @@ void OxFileDialog::removeMedium(const QString& path)
 void OxFileDialog::showFolder(const QString& path)
 {
     m_model->setFolder(path);
-    m_fileList->scrollToTop();
 }
 
 /// Carries a tapped item over to the name box.
