@@ -327,7 +327,7 @@ void OxFileDialog::fileItemDoubleClickedSlot(const QModelIndex& index)
         return;
     }
     const QString folder = m_model->filePath(index);
-    showFolder(folder);
+    m_model->setFolder(folder);
     m_location = m_model->folder();
     m_locationBox->setItemText(0, m_location);
     if (folder != m_currentFolder && locationIndex(m_currentFolder) < 0) {
@@ -344,7 +344,7 @@ void OxFileDialog::favoriteItemClickSlot(const QModelIndex& index)
     // Not the current item: when the selection changes, that is still the one before.
     const QString path = index.data(PathRole).toString();
     const QString name = index.data().toString();
-    showFolder(path);
+    m_model->setFolder(path);
     const int entry = locationIndex(path);
     if (entry > 0) {
         m_locationBox->removeItem(entry);
@@ -408,7 +408,7 @@ void OxFileDialog::upButtonClickedSlot()
     }
     const QString former = m_location;
     m_location = Rules::parentFolder(m_model->folder());
-    showFolder(m_location);
+    m_model->setFolder(m_location);
     if (Rules::endsGoingUp(m_location, m_topFolder)) {
         m_upButton->setEnabled(false);
         const int entry = locationIndex(m_topFolder);
@@ -425,7 +425,7 @@ void OxFileDialog::setFileListComboSlot(int index)
         return;
     }
     const QString path = m_locationBox->itemText(index);
-    showFolder(path);
+    m_model->setFolder(path);
     m_location = path;
     m_upButton->setEnabled(false);
 
@@ -576,7 +576,7 @@ void OxFileDialog::createFileList()
     m_fileList->setUniformItemSizes(true);
     m_fileList->setIconSize(IconButtonSize);
     m_fileList->setItemDelegate(new OxIconItemDelegate(m_fileList));
-    showFolder(m_currentFolder);
+    m_model->setFolder(m_currentFolder);
 }
 
 void OxFileDialog::createFavorites()
@@ -830,11 +830,6 @@ void OxFileDialog::removeMedium(const QString& path)
             return;
         }
     }
-}
-
-void OxFileDialog::showFolder(const QString& path)
-{
-    m_model->setFolder(path);
 }
 
 /// Carries a tapped item over to the name box.

@@ -176,7 +176,6 @@ private:
     void loadUSBInfo();
     void removeMedium(const QString& path);
 
-    void showFolder(const QString& path);
     void takeFile(const QModelIndex& index);
     int locationIndex(const QString& path) const;
 
