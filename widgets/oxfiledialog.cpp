@@ -576,7 +576,6 @@ void OxFileDialog::createFileList()
     m_fileList->setUniformItemSizes(true);
     m_fileList->setIconSize(IconButtonSize);
     m_fileList->setItemDelegate(new OxIconItemDelegate(m_fileList));
-    m_model->setFolder(m_currentFolder);
 }
 
 void OxFileDialog::createFavorites()
