@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QListView>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimerEvent>
 
 #include <cstdio>
@@ -75,6 +76,9 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
+        if (QThread::currentThread() != thread()) { // the reader of either dialog
+            return QApplication::notify(receiver, event);
+        }
         ++m_depth;
         const bool result = QApplication::notify(receiver, event);
         --m_depth;
