@@ -99,7 +99,6 @@ private Q_SLOTS:
     void anotherFolderEmptiesTheListAtOnce();
     void theSameFolderAgainKeepsTheRows();
     void aMissingFolderIsEmpty();
-    void aFolderWithoutPermissionIsEmpty();
     void ofSeveralRequestsTheLastOneCounts();
     void followsChangesOfTheFolder();
     void changesKeepTheSelection();
@@ -292,20 +291,6 @@ void TestFileDialogModel::aMissingFolderIsEmpty()
     QVERIFY(spy.wait(20000));
     QCOMPARE(folder.names(), QStringList());
     QCOMPARE(folder.model.folder(), folder.path(QStringLiteral("missing")));
-}
-
-void TestFileDialogModel::aFolderWithoutPermissionIsEmpty()
-{
-    ShownFolder folder(list("closed/"));
-    const QString closed = folder.path(QStringLiteral("closed"));
-    QVERIFY(QFile::setPermissions(closed, {}));
-    QSignalSpy spy(&folder.model, &FileDialogModel::folderRead);
-
-    folder.model.setFolder(closed);
-
-    QVERIFY(spy.wait(20000));
-    QCOMPARE(folder.names(), QStringList());
-    QVERIFY(QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
 void TestFileDialogModel::ofSeveralRequestsTheLastOneCounts()
