@@ -23,6 +23,8 @@ namespace {
 
 using Script = std::function<void(const FileDialogUser&)>;
 
+constexpr qsizetype Megabyte = 1024 * 1024L;
+
 /// Performs `script` on a running dialog, and then cancels it.
 void open(const Script& script)
 {
@@ -185,7 +187,7 @@ void TestOxFileDialogMounts::hostileMessagesDoNoHarm_data()
     const QByteArray paths = FileDialogUser::bytes(
         QStringList({ QStringLiteral("/media/hostile"), QStringLiteral("/media/also") }));
     const QByteArray longPath =
-        FileDialogUser::bytes(QString(QLatin1Char('/') + QString(1024 * 1024, u'x')));
+        FileDialogUser::bytes(QString(QLatin1Char('/') + QString(Megabyte, u'x')));
 
     for (const char* message : { "mounts", "add", "remove" }) {
         const auto row = [message](const char* name, const QByteArray& data) {
@@ -197,8 +199,8 @@ void TestOxFileDialogMounts::hostileMessagesDoNoHarm_data()
         row("only a size", path.left(4));
         row("more than there is", QByteArray::fromHex("7ffffffe0041"));
         row("a number", FileDialogUser::bytes(qint64(-1)));
-        row("sizes all through", QByteArray(1024 * 1024, '\xff'));
-        row("zeros all through", QByteArray(1024 * 1024, '\0'));
+        row("sizes all through", QByteArray(Megabyte, '\xff'));
+        row("zeros all through", QByteArray(Megabyte, '\0'));
         row("a path of 1 MB", longPath);
         row("a list of a path of 1 MB", QByteArray::fromHex("00000001") + longPath);
     }

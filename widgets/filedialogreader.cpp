@@ -70,8 +70,7 @@ void FileDialogReader::sort(FileDialogEntries& entries)
     std::vector<SortableEntry> sortable;
     sortable.reserve(std::size_t(entries.size()));
     for (FileDialogEntry& entry : entries) {
-        QCollatorSortKey key = collator.sortKey(entry.name);
-        sortable.push_back({ std::move(key), std::move(entry) });
+        sortable.push_back({ collator.sortKey(entry.name), std::move(entry) });
     }
     std::sort(sortable.begin(), sortable.end());
     std::transform(sortable.begin(), sortable.end(), entries.begin(),
