@@ -60,6 +60,8 @@ void TestMountInfo::findsWhatIsMountedBelowTheFolders_data()
     const QByteArray root = "25 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n";
     const QByteArray stick = "61 25 8:17 / /media/usb rw shared:3 - vfat /dev/sdb1 rw,utf8\n";
 
+    constexpr char Garbage[] = "\0\xff \n\n - - - - - -\n/media/usb\n";
+
     row("nothing is mounted", "", {});
     row("nothing below", root, {});
     row("one", root + stick, { usb });
@@ -96,7 +98,7 @@ void TestMountInfo::findsWhatIsMountedBelowTheFolders_data()
     row("deleted", "61 25 8:17 / /media/usb//deleted rw - vfat /dev/sdb1 rw\n", {});
     row("cut off before the type", "61 25 8:17 / /media/usb rw shared:3 -", {});
     row("cut off before the separator", "61 25 8:17 / /media/usb rw shared:3", {});
-    row("garbage", QByteArray("\0\xff \n\n - - - - - -\n/media/usb\n", 31), {});
+    row("garbage", QByteArray(Garbage, sizeof(Garbage) - 1), {});
 }
 
 void TestMountInfo::findsWhatIsMountedBelowTheFolders()
