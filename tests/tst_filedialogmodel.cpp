@@ -88,6 +88,7 @@ private Q_SLOTS:
     void listsNothingBeforeItHasAFolder();
     void listsFoldersFirstInTheOrderPeopleCount_data();
     void listsFoldersFirstInTheOrderPeopleCount();
+    void anEntryThatIsReadTwiceIsListedOnce();
     void listsOddNames();
     void leavesOutWhatIsHiddenOrNoFile();
     void leavesOutFilesThatMatchNoPattern_data();
@@ -149,6 +150,24 @@ void TestFileDialogModel::listsFoldersFirstInTheOrderPeopleCount()
         listed.sort();
     }
     QCOMPARE(listed, names);
+}
+
+void TestFileDialogModel::anEntryThatIsReadTwiceIsListedOnce()
+{
+    const auto file = [](const char* name) {
+        return FileDialogEntry { QString::fromLatin1(name), false };
+    };
+    FileDialogEntries entries {
+        file("b"), file("a"), file("B"), file("b"), { QStringLiteral("b"), true }, file("a")
+    };
+
+    FileDialogReader::sort(entries);
+
+    QStringList names;
+    for (const FileDialogEntry& entry : entries) {
+        names.append(entry.name + (entry.isFolder ? QStringLiteral("/") : QString()));
+    }
+    QCOMPARE(names, list("b/|a|B|b"));
 }
 
 void TestFileDialogModel::listsOddNames()

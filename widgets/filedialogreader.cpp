@@ -73,7 +73,12 @@ void FileDialogReader::sort(FileDialogEntries& entries)
         sortable.push_back({ collator.sortKey(entry.name), std::move(entry) });
     }
     std::sort(sortable.begin(), sortable.end());
-    std::transform(sortable.begin(), sortable.end(), entries.begin(),
+    const auto end = std::unique(sortable.begin(), sortable.end(),
+                                 [](const SortableEntry& a, const SortableEntry& b) {
+                                     return !(a < b); // and not b < a, as they are sorted
+                                 });
+    entries.resize(end - sortable.begin());
+    std::transform(sortable.begin(), end, entries.begin(),
                    [](SortableEntry& each) { return std::move(each.entry); });
 }
 

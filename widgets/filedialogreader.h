@@ -52,7 +52,8 @@ public:
     void setWanted(int serial) { m_wanted.store(serial, std::memory_order_relaxed); }
 
     /// Folders first, each in the order in which people count: "Label 2" before "Label 10", small
-    /// and capital letters mixed. No two names compare equal.
+    /// and capital letters mixed. One that is there twice is left out once: a folder that changes
+    /// while it is read can give a name again.
     static void sort(FileDialogEntries& entries);
 
 public Q_SLOTS:
