@@ -15,6 +15,9 @@
 /// List item under the finger when it is not the current selection.
 #define LOOK_HOVER_ORANGE "#fda800"
 
+/// Selected rows of the file dialog's lists.
+#define LOOK_SELECTION_BLUE "#0068d9"
+
 /// Background of dialogs and panels.
 #define LOOK_PANEL_GREY "#f2f2f2"
 
@@ -28,7 +31,7 @@
 #define LOOK_BUTTON_TOP "#5a5959"
 #define LOOK_BUTTON_BOTTOM "#060606"
 
-/// The same top as the sheet of the database selector writes it.
+/// The same top as the sheets of the database selector and of the favourite folders write it.
 #define LOOK_BUTTON_TOP_UPPER_CASE "#5A5959"
 
 /// Colorize effect of a push button for as long as a finger holds it down.

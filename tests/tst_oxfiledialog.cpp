@@ -19,6 +19,7 @@
 #include <QScrollBar>
 #include <QTranslator>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -446,6 +447,16 @@ void TestOxFileDialog::theSheetsAreExact()
                     "}\n")
                 + ScrollBarSheet.arg(35));
         QCOMPARE(user.favorites->styleSheet(), SelectionSheet + ScrollBarSheet.arg(23));
+        const auto labels =
+            user.dialog->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto header = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->text() == QLatin1String("Favorites");
+        });
+        QVERIFY(header != labels.end());
+        QCOMPARE((*header)->styleSheet(),
+                 QStringLiteral("color: white; background-color: #5A5959; font:bold;"));
+        QCOMPARE((*header)->height(), 25);
+        QCOMPARE((*header)->alignment(), Qt::AlignCenter);
         QCOMPARE(user.up->styleSheet(),
                  QStringLiteral("QPushButton { border: 0px; background: none; border-image: "
                                 "url(:/FileDialog/FileDialogIcons/up-arrow_normal.jpg); }\n"

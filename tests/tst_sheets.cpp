@@ -65,6 +65,7 @@ void TestSheets::paletteIsExact_data()
     };
     add("accent orange", LOOK_ACCENT_ORANGE, "#fd7800");
     add("hover orange", LOOK_HOVER_ORANGE, "#fda800");
+    add("selection blue", LOOK_SELECTION_BLUE, "#0068d9");
     add("panel grey", LOOK_PANEL_GREY, "#f2f2f2");
     add("panel grey in upper case", LOOK_PANEL_GREY_UPPER_CASE, "#F2F2F2");
     add("title charcoal", LOOK_TITLE_CHARCOAL, "#2b2b2b");

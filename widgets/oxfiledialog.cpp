@@ -82,9 +82,11 @@ QString upButtonStyle()
 QString selectionStyle()
 {
     return QStringLiteral("QListView { show-decoration-selected: 1; selection-color: white; "
-                          "selection-background-color: #0068d9; }\n");
+                          "selection-background-color: " LOOK_SELECTION_BLUE "; }\n");
 }
 
+/// The delegate of the list paints a selected row in the selection's colour; the rules for items are
+/// for the delegates that follow a sheet.
 QString fileListStyle()
 {
     return selectionStyle()
@@ -656,7 +658,8 @@ QLayout* OxFileDialog::createLists()
     header->setContentsMargins(0, 0, 0, 0);
     header->setAlignment(Qt::AlignCenter);
     header->setFixedHeight(25);
-    header->setStyleSheet(QStringLiteral("color: white; background-color: #5A5959; font:bold;"));
+    header->setStyleSheet(QStringLiteral(
+        "color: white; background-color: " LOOK_BUTTON_TOP_UPPER_CASE "; font:bold;"));
     m_favoritesList->setAccessibleName(header->text());
 
     auto* favorites = new QVBoxLayout;
