@@ -20,7 +20,7 @@
  * list->setUniformItemSizes(true);
  * \endcode
  *
- * Items are painted as QItemDelegate does: rules for `::item` in a view's style sheet have no
+ * Items are painted as QItemDelegate does: what a view's style sheet says of items has no
  * effect. Where items differ in size, use QStyledItemDelegate and Qt::SizeHintRole.
  */
 class UTILITYWIDGETS_EXPORT OxIconItemDelegate : public QItemDelegate
