@@ -11,6 +11,7 @@
 #include "support/longtranslation.h"
 #include "support/modaldialog.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void theTexts();
     void theOptionsAreLargeAndBold();
     void allTextsAreTranslated();
+    void theTextsHaveTheirComments();
     void theButtonsHaveThePushButtonSheet();
     void theGridIsExact();
     void theLayoutsAroundTheGridAreExact();
@@ -228,7 +230,7 @@ void TestDatabaseSaveWidget::allTextsAreTranslated()
         QCOMPARE(text->text(), EverythingTranslated::text());
     }
     const QLayout* buttons = innerLayout(dialog)->itemAt(2)->layout();
-    for (const int index : { 1, 2 }) {
+    for (const int index : { 0, 1 }) {
         QCOMPARE(qobject_cast<QPushButton*>(buttons->itemAt(index)->widget())->text(),
                  EverythingTranslated::text());
     }
@@ -276,8 +278,9 @@ void TestDatabaseSaveWidget::theLayoutsAroundTheGridAreExact()
     QCOMPARE(inner->itemAt(1)->spacerItem()->sizeHint().height(), 30);
     const auto* buttons = qobject_cast<QHBoxLayout*>(inner->itemAt(2)->layout());
     QVERIFY(buttons != nullptr);
-    QVERIFY(buttons->indexOf(button(dialog, "OK")) >= 0);
-    QVERIFY(buttons->indexOf(button(dialog, "OK")) < buttons->indexOf(button(dialog, "Cancel")));
+    QCOMPARE(buttons->count(), 2);
+    QCOMPARE(buttons->itemAt(0)->widget(), button(dialog, "OK"));
+    QCOMPARE(buttons->itemAt(1)->widget(), button(dialog, "Cancel"));
 }
 
 void TestDatabaseSaveWidget::is380WideAndAtMost242High()
@@ -517,6 +520,23 @@ void TestDatabaseSaveWidget::isMirroredForLanguagesFromRightToLeft()
     dialog.show();
     QVERIFY(saveRadio(dialog)->x() > label(dialog, 0)->x());
     QVERIFY(button(dialog, "OK")->x() > button(dialog, "Cancel")->x());
+}
+
+void TestDatabaseSaveWidget::theTextsHaveTheirComments()
+{
+    const TranslationRecorder recorder("DatabaseSaveWidget");
+    const DatabaseSaveWidget dialog;
+    QStringList texts = recorder.texts();
+    texts.sort();
+    QCOMPARE(
+        texts.join(QLatin1Char('\n')),
+        QStringLiteral("Cancel / Cancel button for saving to a database.\n"
+                       "OK / Ok button for saving to a database.\n"
+                       "Overwrites current record in database / Save info label\n"
+                       "SAVE TO DATABASE / Header label to save record to the database.\n"
+                       "Save As New Record / Label to save as a new record into the database.\n"
+                       "Save Current Record / Label to save current record into the database.\n"
+                       "Saves as new record in database / Save As info label"));
 }
 
 UW_TEST_MAIN(TestDatabaseSaveWidget)

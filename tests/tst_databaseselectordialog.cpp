@@ -10,6 +10,7 @@
 #include "support/longtranslation.h"
 #include "support/modaldialog.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
 
 #include <QDir>
 #include <QGridLayout>
@@ -107,6 +108,7 @@ private Q_SLOTS:
     void theLabelNamesTheSubfolder();
     void aSubfoldersNameIsPlainText();
     void theFormsTextsAreTranslated();
+    void theTextsHaveTheirComments();
     void theFormIsExact();
     void theEntriesAreFortyPixelsHighAndCanBeChosen();
 
@@ -485,6 +487,18 @@ void TestDatabaseSelectorDialog::isMirroredForLanguagesFromRightToLeft()
     dialog.setLayoutDirection(Qt::RightToLeft);
     dialog.show();
     QVERIFY(okayButton(dialog)->geometry().center().x() < dialog.width() / 2);
+}
+
+void TestDatabaseSelectorDialog::theTextsHaveTheirComments()
+{
+    const TranslationRecorder recorder("DatabaseSelectorDialog");
+    const DatabaseSelectorDialog dialog(subfolder());
+    QStringList texts = recorder.texts();
+    texts.sort();
+    QCOMPARE(texts.join(QLatin1Char('\n')),
+             QStringLiteral("DATABASE SELECTOR / \n"
+                            "Database / Title that shows multiple databases.\n"
+                            "OK / Button to confirm selecting a database."));
 }
 
 UW_TEST_MAIN(TestDatabaseSelectorDialog)

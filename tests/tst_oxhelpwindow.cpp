@@ -11,6 +11,7 @@
 #include "support/longtranslation.h"
 #include "support/secondprocess.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
 
 #include <QDataStream>
 #include <QDir>
@@ -118,6 +119,7 @@ private Q_SLOTS:
     void itsInterfaceHasThePropertyAndTheSlots();
     void theTexts();
     void allTextsAreTranslated();
+    void theTextsHaveTheirComments();
     void theFormIsExact();
     void theHeaderRowIsExact();
     void theQuestionsListIsExact();
@@ -757,6 +759,21 @@ void TestOxHelpWindow::isMirroredForLanguagesFromRightToLeft()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QVERIFY(manualsList(window)->x() < questions(window)->x());
     QVERIFY(label(window, "PDFLabel")->x() < label(window, "FAQLabel")->x());
+}
+
+void TestOxHelpWindow::theTextsHaveTheirComments()
+{
+    const TranslationRecorder recorder("OxHelpWindow");
+    const OxHelpWindow window;
+    QStringList texts = recorder.texts();
+    texts.sort();
+    QCOMPARE(texts.join(QLatin1Char('\n')),
+             QStringLiteral(
+                 "Close / Close button for the help menu.\n"
+                 "Common Help / Title of the common help section for frequently asked questions.\n"
+                 "Detailed Help / Title of the detailed help section for frequently asked "
+                 "questions.\n"
+                 "HELP / The title of the help dialog."));
 }
 
 UW_TEST_MAIN(TestOxHelpWindow)

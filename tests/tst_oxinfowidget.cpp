@@ -10,6 +10,7 @@
 #include "support/longtranslation.h"
 #include "support/modaldialog.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void aVersionIsPlainText();
     void theContactHasFourShortLinesWithNumberAndAddress();
     void theNoticeIsOneLineAndNotTranslated();
+    void theTextsHaveTheirComments();
     void theCloseButtonIsExact();
     void theLayoutsAreExact();
     void theRowsAreAligned_data();
@@ -365,6 +367,26 @@ void TestOxInfoWidget::isMirroredForLanguagesFromRightToLeft()
     QVERIFY(QTest::qWaitForWindowExposed(&panel));
     QCOMPARE(closeButtonOf(panel)->geometry().left(), 8);
     QCOMPARE(inRow<QLabel>(panel, 2)->geometry().right(), 360 - 8 - 1);
+}
+
+void TestOxInfoWidget::theTextsHaveTheirComments()
+{
+    const TranslationRecorder recorder("OxInfoWidget");
+    OxInfoWidget panel(version());
+    QStringList texts = recorder.texts();
+    texts.replaceInStrings(inRow<QLabel>(panel, 3)->text(), QStringLiteral("(contact)"));
+    texts.sort();
+    QCOMPARE(texts.join(QLatin1Char('\n')),
+             QStringLiteral(
+                 "(contact) / Contact information for users that need help with the application. "
+                 "The backslash n characters are newlines and should be ignored.\n"
+                 "ABOUT / Section header for displaying information about the application.\n"
+                 "About  / Label for displaying information about the application.\n"
+                 "Close / Button text to close the About window.\n"
+                 "Version:  / Label that displays the application version"));
+
+    panel.setVersionNumber(QStringLiteral("2.0"));
+    QVERIFY(recorder.texts().contains(QStringLiteral("Version:  / ")));
 }
 
 UW_TEST_MAIN(TestOxInfoWidget)

@@ -181,7 +181,6 @@ QGridLayout* DatabaseSaveWidget::layOutOptions()
 void DatabaseSaveWidget::createLayout(QWidget* titleBar)
 {
     auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
     buttons->addWidget(m_okButton);
     buttons->addWidget(m_cancelButton);
 
@@ -191,6 +190,7 @@ void DatabaseSaveWidget::createLayout(QWidget* titleBar)
     inner->addLayout(layOutOptions());
     inner->addSpacing(30);
     inner->addLayout(buttons);
+    inner->setAlignment(buttons, Qt::AlignRight);
 
     auto* outer = new QVBoxLayout;
     outer->setSpacing(30);

@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "support/translationrecorder.h"
 #include "symboldatabasemodel.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QTranslator>
 
 /*!
  * A symbol database in a folder of its own, the model that a test is about, and what it reported.
@@ -64,28 +64,3 @@ QString queryFailed(const QString& statement, const QString& error);
 
 /// A document of the given size, filled with one colour.
 QByteArray filledSvg(const QByteArray& colour, int width = 50, int height = 50);
-
-/// Installed as a translator, remembers the texts of one class with their comments, and translates
-/// what it is told to.
-class TranslationRecorder : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    explicit TranslationRecorder(QByteArray context);
-    ~TranslationRecorder() override;
-
-    void setTranslation(const QByteArray& text, const QString& translation);
-
-    /// "text / comment" of everything that was translated so far, each once.
-    QStringList texts() const { return m_texts; }
-
-    QString translate(const char* context, const char* text, const char* comment,
-                      int number) const override;
-    bool isEmpty() const override { return false; }
-
-private:
-    QByteArray m_context;
-    QHash<QByteArray, QString> m_translations;
-    mutable QStringList m_texts;
-};
