@@ -8,6 +8,7 @@
 #include "support/paintcounter.h"
 #include "support/test.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -27,7 +28,8 @@ private Q_SLOTS:
     void reportsTheLossAfterTheBaseHasHandledIt();
     void saysNothingWhenAnItemLosesTheFocus();
     void saysNothingWhenItGetsTheFocus();
-    void aTapOnAnItemThatTakesNoFocusLeavesThePanelAlone();
+    void aTapOnAnItemLeavesThePanelAlone();
+    void theKeyboardReachesAnItemWhichIsKnownWhenTheLossIsReported();
     void isGreyInAnOrangeFrame();
 };
 
@@ -159,11 +161,11 @@ void TestFileMenuWidget::saysNothingWhenItGetsTheFocus()
     QCOMPARE(lost.count(), 0);
 }
 
-void TestFileMenuWidget::aTapOnAnItemThatTakesNoFocusLeavesThePanelAlone()
+void TestFileMenuWidget::aTapOnAnItemLeavesThePanelAlone()
 {
     auto* menu = new FileMenuWidget;
     auto* item = new QPushButton(QStringLiteral("Open"));
-    item->setFocusPolicy(Qt::NoFocus);
+    item->setFocusPolicy(Qt::TabFocus);
     menu->addMenuItem(item);
     FieldForm form(menu);
     form.enter();
@@ -175,6 +177,24 @@ void TestFileMenuWidget::aTapOnAnItemThatTakesNoFocusLeavesThePanelAlone()
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(lost.count(), 0);
     QVERIFY(menu->hasFocus());
+}
+
+void TestFileMenuWidget::theKeyboardReachesAnItemWhichIsKnownWhenTheLossIsReported()
+{
+    auto* menu = new FileMenuWidget;
+    auto* item = new QPushButton(QStringLiteral("Open"));
+    item->setFocusPolicy(Qt::TabFocus);
+    menu->addMenuItem(item);
+    FieldForm form(menu);
+    form.enter();
+    const QWidget* focus = nullptr;
+    connect(menu, &FileMenuWidget::focusLost, menu,
+            [&focus] { focus = QApplication::focusWidget(); });
+
+    QTest::keyClick(form.window()->windowHandle(), Qt::Key_Tab);
+
+    QCOMPARE(focus, item);
+    QVERIFY(item->hasFocus());
 }
 
 void TestFileMenuWidget::isGreyInAnOrangeFrame()

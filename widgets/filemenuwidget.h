@@ -18,16 +18,20 @@ class QVBoxLayout;
  * \code
  * auto* menu = new FileMenuWidget(this);
  * auto* open = new QPushButton(tr("Open", "Item of the file menu."));
- * open->setFocusPolicy(Qt::NoFocus);
+ * open->setFocusPolicy(Qt::TabFocus);
  * menu->addMenuItem(open);
- * connect(menu, &FileMenuWidget::focusLost, menu, &QWidget::hide);
+ * connect(menu, &FileMenuWidget::focusLost, menu, [menu] {
+ *     if (!menu->isAncestorOf(QApplication::focusWidget())) {
+ *         menu->hide();
+ *     }
+ * });
  *
  * menu->show();
  * menu->setFocus();
  * \endcode
  *
  * A tap on an item that accepts the focus takes it away from the panel, which would be hidden
- * before the tap is over: hence Qt::NoFocus.
+ * before the tap is over. With Qt::TabFocus only the keyboard moves the focus to an item.
  */
 class UTILITYWIDGETS_EXPORT FileMenuWidget : public QFrame
 {
@@ -42,8 +46,9 @@ public:
     void addMenuItem(QWidget* item);
 
 Q_SIGNALS:
-    /// The panel itself has lost the keyboard focus, for whatever reason, to one of its items too.
-    /// Not emitted when an item loses it, nor when a panel without the focus is hidden.
+    /// The panel itself has lost the keyboard focus, for whatever reason, to one of its items too:
+    /// QApplication::focusWidget() tells who has it now. Not emitted when an item loses it, nor
+    /// when a panel without the focus is hidden.
     void focusLost();
 
 protected:

@@ -87,8 +87,8 @@ QPushButton* createMenuItem(const QString& text)
     item->setFlat(true);
     item->setFixedHeight(40);
     item->setMinimumWidth(1); // never wider than the menu
-    // A tap would take the focus away from the menu, and hide it before the tap is over.
-    item->setFocusPolicy(Qt::NoFocus);
+    // A tap that took the focus away from the menu would hide it before it is over.
+    item->setFocusPolicy(Qt::TabFocus);
     return item;
 }
 
@@ -102,17 +102,23 @@ QWidget* createMenu(const QString& lastItem)
     return menu;
 }
 
-void dropMenuDown(QWidget* page)
+/// Below `button`, for as long as the focus is in the menu.
+void dropMenuDown(QWidget* button)
 {
     //! [FileMenuWidget]
-    auto* menu = new FileMenuWidget(page);
+    auto* menu = new FileMenuWidget(button->window());
     for (const QString& text : { QStringLiteral("New"), QStringLiteral("Save as") }) {
-        QPushButton* item = createMenuItem(text); // takes no focus
+        QPushButton* item = createMenuItem(text); // Qt::TabFocus: a tap does not take the focus
         QObject::connect(item, &QPushButton::clicked, menu, &QObject::deleteLater);
         menu->addMenuItem(item);
     }
-    QObject::connect(menu, &FileMenuWidget::focusLost, menu, &QObject::deleteLater);
-    menu->setGeometry(14, 60, 240, 120);
+    QObject::connect(menu, &FileMenuWidget::focusLost, menu, [menu] {
+        if (!menu->isAncestorOf(QApplication::focusWidget())) {
+            menu->deleteLater();
+        }
+    });
+    const QPoint below = button->mapTo(button->window(), button->rect().bottomLeft());
+    menu->setGeometry(QRect(below, QSize(button->width(), 80)));
     menu->show();
     menu->setFocus();
     //! [FileMenuWidget]
