@@ -156,6 +156,7 @@ private Q_SLOTS:
     void bothCloseButtonsHideIt_data();
     void bothCloseButtonsHideIt();
     void theKeyboardReachesEverything();
+    void theListsHaveTheirHeadersAsNames();
     void theCloseButtonOfTheTitleBarKeepsItsSize();
     void everyTextFits_data();
     void everyTextFits();
@@ -723,6 +724,13 @@ void TestOxHelpWindow::theKeyboardReachesEverything()
     QCOMPARE(QApplication::focusWidget(), closeButton(window));
     QTest::keyClick(window.windowHandle(), Qt::Key_Space);
     QVERIFY(!window.isVisible());
+}
+
+void TestOxHelpWindow::theListsHaveTheirHeadersAsNames()
+{
+    const OxHelpWindow window;
+    QCOMPARE(questions(window)->accessibleName(), QStringLiteral("Common Help"));
+    QCOMPARE(manualsList(window)->accessibleName(), QStringLiteral("Detailed Help"));
 }
 
 void TestOxHelpWindow::theCloseButtonOfTheTitleBarKeepsItsSize()

@@ -47,6 +47,8 @@ OxHelpWindow::OxHelpWindow(QWidget* parent)
     m_ui->headerBar->setTitle(tr("HELP", "The title of the help dialog."));
     m_ui->FAQLabel->setFont(ApplicationFont::getWidgetFont(true));
     m_ui->PDFLabel->setFont(ApplicationFont::getWidgetFont(true));
+    m_ui->listWidget->setAccessibleName(m_ui->FAQLabel->text());
+    m_ui->PDFHelpListWidget->setAccessibleName(m_ui->PDFLabel->text());
     m_ui->listWidget->setGridSize(QuestionSize);
     m_ui->listWidget->setStyleSheet(Look::dialogList());
     m_ui->PDFHelpListWidget->setStyleSheet(Look::dialogList());

@@ -49,8 +49,10 @@ void askForGrid()
     dialog.setHeaderLabelText(QStringLiteral("GRID"));
     auto* spacing = new OxSpinBox;
     spacing->setMinimumSize(300, 35);
+    auto* label = new QLabel(QStringLiteral("Spacing in millimetres"));
+    label->setBuddy(spacing);
     auto* content = new QVBoxLayout;
-    content->addWidget(new QLabel(QStringLiteral("Spacing in millimetres")));
+    content->addWidget(label);
     content->addWidget(spacing);
     content->addWidget(createDoneButton(&dialog), 0, Qt::AlignRight); // accepts
     dialog.setContainedWidget(content);
@@ -98,7 +100,6 @@ QWidget* createMenu(const QString& lastItem)
     menu->addMenuItem(createMenuItem(QStringLiteral("New")));
     menu->addMenuItem(createMenuItem(QStringLiteral("Open")));
     menu->addMenuItem(createMenuItem(lastItem));
-    menu->setFocusPolicy(Qt::StrongFocus);
     return menu;
 }
 
