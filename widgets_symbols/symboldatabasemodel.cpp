@@ -41,8 +41,9 @@ constexpr int NoSymbol = -1;
 /// longer than showing the library.
 void startSync()
 {
-    static QMutex mutex;
-    static std::vector<pid_t> started;
+    // Never destroyed, because a thread may still close a database while the process ends.
+    static QBasicMutex mutex;
+    static auto& started = *new std::vector<pid_t>;
     const QMutexLocker lock(&mutex);
     // Those that have ended since: nobody else does it.
     const auto hasEnded = [](pid_t process) {
