@@ -130,7 +130,8 @@ QWidget* windowInFrontOf(const GalleryWindow* window)
 
 bool takeTour(const QString& folder)
 {
-    const QDir target(folder);
+    // Absolute, because a page may change the working directory.
+    const QDir target(QDir(folder).absolutePath());
     if (!target.mkpath(QStringLiteral("."))) {
         std::fprintf(stderr, "cannot make %s\n", qUtf8Printable(folder));
         return false;

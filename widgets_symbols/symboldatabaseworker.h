@@ -33,7 +33,8 @@ class SymbolDatabaseModel;
  * \endcode
  *
  * Call one of the two start-up slots once, before anything else; until then there is nothing to be
- * found. Stop the thread and wait for it before the worker is destroyed.
+ * found. Stop the thread and wait for it before the worker is destroyed; an interruption requested
+ * of the thread, QThread::requestInterruption(), cuts a search short.
  *
  * The plain calls may come from any thread: they wait for the slot that is running. Results carry
  * their thumbnail as PNG bytes under Qt::UserRole + 2 and no icon, since icons belong to the GUI

@@ -220,15 +220,20 @@ void showSymbolsLineEdit(Stage& stage)
         QStringLiteral("arrow"));
 }
 
-/// A menu on the library of these pages: it looks for its library where the process works.
+/// A menu on the library in `folder`. It looks for it where the process works, whenever it is
+/// touched, so that the process works there for as long as the menu lives.
 SymbolsMenu* createMenu(const QString& folder, const QStringList& names)
 {
-    const QString former = QDir::currentPath();
+    static const QString start = QDir::currentPath();
     QDir::setCurrent(folder);
     //! [SymbolsMenu]
     auto* menu = new SymbolsMenu(names);
     //! [SymbolsMenu]
-    QDir::setCurrent(former);
+    QObject::connect(menu, &QObject::destroyed, [folder] {
+        if (QDir::current() == QDir(folder)) { // and not that of a newer page
+            QDir::setCurrent(start);
+        }
+    });
     return menu;
 }
 
