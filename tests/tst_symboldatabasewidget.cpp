@@ -23,6 +23,7 @@
 #include <QFile>
 #include <QGridLayout>
 #include <QLabel>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSqlDatabase>
@@ -56,6 +57,9 @@ private Q_SLOTS:
     // start
     void startsBusyAndEmpty();
     void showsCategoriesAndAllSymbolsOnceRead();
+#ifdef SYMBOLLIBRARY
+    void showsALibraryThatTheToolHasFilled();
+#endif
     void categoryButtonsLookAsStated();
     void underscoresAreShownAsBlanks();
     void categoriesStandTogetherAtTheTop();
@@ -619,6 +623,38 @@ void TestSymbolDatabaseWidget::showsCategoriesAndAllSymbolsOnceRead()
     QCOMPARE(browser.checkedCategory(), QStringLiteral("All"));
     QCOMPARE(sorted(browser.names()), UsualNames);
 }
+
+#ifdef SYMBOLLIBRARY
+void TestSymbolDatabaseWidget::showsALibraryThatTheToolHasFilled()
+{
+    const QString drawings = QStringLiteral(SYMBOLS_FOLDER);
+    QDir().mkpath(QFileInfo(libraryPath()).path());
+    QProcess tool;
+    tool.setProcessChannelMode(QProcess::MergedChannels);
+    tool.start(QStringLiteral(SYMBOLLIBRARY),
+               { QStringLiteral("update"), libraryPath(), drawings });
+    QVERIFY2(tool.waitForFinished() && tool.exitCode() == 0, tool.readAll().constData());
+
+    const Browser browser;
+    QVERIFY(browser.isReady());
+    QStringList categories = QDir(drawings).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QVERIFY(categories.count() > 3);
+    categories.prepend(QStringLiteral("All"));
+    QCOMPARE(browser.categoryTexts(), categories);
+    QVERIFY(browser.view->model()->rowCount() > 40);
+    browser.button("Weather")->click();
+    const QDir weather(drawings + QStringLiteral("/Weather"));
+    QVERIFY(QTest::qWaitFor([&] {
+        return sorted(browser.names()) == sorted(weather.entryList({ QStringLiteral("*.svg") }));
+    }));
+    browser.select("sun.svg");
+    QFile sun(weather.filePath(QStringLiteral("sun.svg")));
+    QVERIFY(sun.open(QFile::ReadOnly));
+    QCOMPARE(browser.widget->getSelectedSymbol(), sun.readAll());
+    const auto icon = browser.index("sun.svg").data(Qt::DecorationRole).value<QIcon>();
+    QCOMPARE(icon.availableSizes(), QList<QSize> { QSize(50, 50) });
+}
+#endif
 
 void TestSymbolDatabaseWidget::categoryButtonsLookAsStated()
 {

@@ -80,18 +80,12 @@ QString categoryButtonSheet()
 
 QString dialogButtonSheet()
 {
-    return QStringLiteral(
-        "QPushButton { border: 1px solid " LOOK_ACCENT_ORANGE "; color: white; font: bold; \n"
-        "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " LOOK_BUTTON_TOP
-        ", stop: 1 " LOOK_BUTTON_BOTTOM ");\n"
-        "border-radius: 6px; outline: 0;\n"
-        "min-height: 35px; }\n"
-        "QPushButton:pressed { background-color: " LOOK_ACCENT_ORANGE "; color: white; }\n"
-        "QPushButton:disabled { border: 1px solid " LOOK_DISABLED_BORDER
-        "; color: " LOOK_DISABLED_TEXT "; \n"
-        "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 " LOOK_DISABLED_TOP
-        ", stop: 1 " LOOK_DISABLED_BOTTOM ");\n"
-        "border-radius: 6px; }\n");
+    return Look::gradientButton()
+        + QStringLiteral("QPushButton:disabled { border: 1px solid " LOOK_DISABLED_BORDER
+                         "; color: " LOOK_DISABLED_TEXT "; \n"
+                         "background-color: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: "
+                         "0 " LOOK_DISABLED_TOP ", stop: 1 " LOOK_DISABLED_BOTTOM ");\n"
+                         "border-radius: 6px; }\n");
 }
 
 /// Shows the names of categories as they are: an ampersand is a part of the name.
