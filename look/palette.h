@@ -24,7 +24,7 @@
 /// The same grey as the sheet of the database selector writes it.
 #define LOOK_PANEL_GREY_UPPER_CASE "#F2F2F2"
 
-/// Background of title bars.
+/// Background of title bars and of the navigation bar.
 #define LOOK_TITLE_CHARCOAL "#2b2b2b"
 
 /// Top and bottom of the vertical gradient of an enabled push button.
@@ -49,6 +49,9 @@
 /// Rule between the head and the text of a panel; frame of a list without the focus. The combo box's
 /// grey by accident only.
 #define LOOK_SEPARATOR "#c6c6c6"
+
+/// Background of the combo box on the dark navigation bar.
+#define LOOK_COMBO_GREY "#e8e8e8"
 
 /// Handle of the 35 px wide scroll bars.
 #define LOOK_SCROLL_HANDLE "#464646"

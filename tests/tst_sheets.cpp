@@ -78,6 +78,7 @@ void TestSheets::paletteIsExact_data()
     add("bottom of a disabled button", LOOK_DISABLED_BOTTOM, "#a8a8a8");
     add("border of a combo box", LOOK_COMBO_BORDER, "#c6c6c6");
     add("separator", LOOK_SEPARATOR, "#c6c6c6");
+    add("combo box on the navigation bar", LOOK_COMBO_GREY, "#e8e8e8");
     add("scroll bar handle", LOOK_SCROLL_HANDLE, "#464646");
     add("button under a finger", LOOK_TOUCH_TINT, "#ff5800");
     add("ticks of a slider", LOOK_SLIDER_TICK, "#a5a294");

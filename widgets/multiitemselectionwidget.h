@@ -51,7 +51,8 @@ UTILITYWIDGETS_EXPORT bool descendingQModelIndexRowCompare(const QModelIndex& fi
  * the person. The widget owns every item it is given and deletes it at the latest with itself. An
  * item may be given once, and must be neither null nor in a model.
  *
- * Any number of items moves in one step, and in time proportional to the lengths of the two lists.
+ * Any number of items moves in one step, in time proportional to the lengths of the two lists and
+ * to what sorting them takes.
  *
  * Everything goes through the virtual functions below, also what the widget does by itself: the
  * button ">>", for example, ends in onAddButtonClicked(). A subclass changes one step by overriding
