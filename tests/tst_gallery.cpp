@@ -4,18 +4,24 @@
 #include "gallery/gallerywindow.h"
 #include "gallery/page.h"
 #include "gallery/pageview.h"
+#include "gallery/shippedlibrary.h"
 #include "gallery/signallog.h"
 #include "gallery/snippets.h"
+#include "gallery/symbolpreview.h"
 #include "gallery/tour.h"
 
 #include "containertitlebar.h"
 #include "oxtitlebar.h"
 #include "sharedconstants.h"
 #include "support/finger.h"
+#include "support/modaldialog.h"
 #include "support/test.h"
+#include "symboldatabasemodel.h"
+#include "symboldatabasewidget.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QListView>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -43,6 +49,10 @@ private Q_SLOTS:
     void theTourShowsTranslucentWindowsAsAPersonSeesThem();
     void theTourReportsAFolderItCannotMake();
     void theListNamesEveryPictureOfTheTour();
+
+    void theShippedLibraryIsMadeOnAnotherThread();
+    void theChosenSymbolIsShownLarge();
+    void aSymbolThatCannotBeDrawnShowsAnEmptySheet();
 
     void aSnippetIsCutBetweenItsMarks_data();
     void aSnippetIsCutBetweenItsMarks();
@@ -240,6 +250,63 @@ void TestGallery::theListNamesEveryPictureOfTheTour()
         names.append(line.section(QLatin1Char('\t'), 1, 1));
     }
     QCOMPARE(names, pictureNames());
+}
+
+void TestGallery::theShippedLibraryIsMadeOnAnotherThread()
+{
+    Gallery::ShippedLibrary* library = Gallery::ShippedLibrary::instance();
+    library->make();
+    // Nothing has come of it before this thread is asked.
+    QVERIFY(library->isBeingMade() != library->isMade());
+    QTRY_VERIFY(library->isMade());
+    QVERIFY(!library->isBeingMade());
+
+    SymbolDatabaseModel symbols;
+    symbols.setDatabasePath(library->path());
+    QCOMPARE(symbols.categories().count(), 6);
+    QCOMPARE(Gallery::ShippedLibrary::instance(), library);
+}
+
+void TestGallery::theChosenSymbolIsShownLarge()
+{
+    Gallery::GalleryWindow window;
+    window.showPage(QStringLiteral("SymbolDatabaseWidget"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto* preview = window.findChild<Gallery::SymbolPreview*>();
+    QPushButton* button = nullptr;
+    const auto buttons = window.findChildren<QPushButton*>();
+    for (QPushButton* candidate : buttons) {
+        button = candidate->text() == QStringLiteral("Insert a symbol") ? candidate : button;
+    }
+    QVERIFY(button != nullptr);
+
+    QByteArray chosen;
+    whileModal<SymbolDatabaseWidget>([button] { button->click(); },
+                                     [&chosen](SymbolDatabaseWidget* browser) {
+                                         auto* view = browser->findChild<QListView*>();
+                                         QCOMPARE(view->model()->rowCount(), 60);
+                                         view->setCurrentIndex(view->model()->index(17, 0));
+                                         chosen = browser->getSelectedSymbol();
+                                         browser->acceptSlot();
+                                     });
+
+    Gallery::SymbolPreview expected;
+    expected.resize(preview->size());
+    expected.setSymbol(chosen);
+    const auto picture = [](QWidget* widget) {
+        return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    QCOMPARE(picture(preview), picture(&expected));
+    QVERIFY(!isBlank(preview->grab(preview->rect().adjusted(1, 1, -1, -1)).toImage()));
+}
+
+void TestGallery::aSymbolThatCannotBeDrawnShowsAnEmptySheet()
+{
+    Gallery::SymbolPreview preview;
+    preview.resize(200, 180);
+    preview.setSymbol(QByteArrayLiteral("no drawing"));
+    QVERIFY(isBlank(preview.grab(preview.rect().adjusted(1, 1, -1, -1)).toImage()));
 }
 
 void TestGallery::aSnippetIsCutBetweenItsMarks_data()

@@ -54,6 +54,7 @@ void TestSymbolsLineEdit::theMagnifierHasItsIconCursorAndName()
     QVERIFY(!button->icon().pixmap(16, 16).isNull());
     QCOMPARE(button->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(button->accessibleName(), QStringLiteral("Search"));
+    QCOMPARE(field.accessibleName(), QStringLiteral("Search symbols"));
     QCOMPARE(button->text(), QString());
 }
 

@@ -12,6 +12,7 @@
 SymbolsLineEdit::SymbolsLineEdit(QWidget* parent)
     : QLineEdit(parent)
 {
+    setAccessibleName(tr("Search symbols", "Accessible name of the symbol search field."));
     m_searchButton = new QToolButton(this);
     m_searchButton->setIcon(Look::icon(QStringLiteral(LOOK_IMAGE_SEARCH)));
     m_searchButton->setIconSize(QSize(16, 16));

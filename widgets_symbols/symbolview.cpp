@@ -5,6 +5,7 @@
 
 #include "look/palette.h"
 
+#include <QCoreApplication>
 #include <QListView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -45,6 +46,8 @@ public:
 void prepareSymbolView(QListView* view, const QSize& grid)
 {
     view->setItemDelegate(new SymbolDelegate(view));
+    view->setAccessibleName(QCoreApplication::translate(
+        "SymbolView", "Symbols", "Accessible name of a list of symbols."));
     view->setViewMode(QListView::IconMode); // first, because it sets others of these
     view->setIconSize(grid);
     view->setGridSize(grid);

@@ -4,26 +4,29 @@
 #include "pages/families.h"
 
 #include "lockwidget.h"
-#include "oxmessagebox.h"
+#include "shippedlibrary.h"
 #include "stage.h"
 #include "symboldatabasemodel.h"
 #include "symboldatabasewidget.h"
 #include "symboldatabaseworker.h"
 #include "symbolinspection.h"
+#include "symbolpreview.h"
 #include "symbolslineedit.h"
 #include "symbolsmenu.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QPixmap>
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 
 namespace Gallery {
 
@@ -180,29 +183,59 @@ void showSymbolDatabaseWorker(Stage& stage)
     }
 }
 
-/// Runs the browser on the library of these pages, in place of the device's.
+/// The place on the page where the chosen symbol is shown.
+QPointer<SymbolPreview> previewOnThePage;
+
+void showSymbolDatabaseWidget(Stage& stage)
+{
+    ShippedLibrary::instance()->make(); // so that it is there when the browser is opened
+    previewOnThePage = new SymbolPreview;
+    QFile first(QStringLiteral(":/gallery/symbols/Transport/sailing-boat.svg"));
+    if (first.open(QFile::ReadOnly)) {
+        previewOnThePage->setSymbol(first.readAll());
+    }
+    stage.addWide(QStringLiteral("The symbol that was chosen last"), previewOnThePage);
+}
+
+/// Waits for what ends `waiting`, for a person's patience at the most, and meanwhile takes no taps.
+void waitFor(QEventLoop& waiting)
+{
+    QTimer::singleShot(2000, &waiting, &QEventLoop::quit); // milliseconds
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// Has `browser` show the gallery's own library in place of the device's, and waits until it does:
+/// a page shows it filled, which no application would wait for.
+void fill(SymbolDatabaseWidget& browser)
+{
+    ShippedLibrary* library = ShippedLibrary::instance();
+    library->make();
+    if (library->isBeingMade()) {
+        QEventLoop making;
+        QObject::connect(library, &ShippedLibrary::finished, &making, &QEventLoop::quit);
+        waitFor(making);
+    }
+    if (library->isMade()) {
+        QEventLoop reading;
+        QObject::connect(browser.findChild<QListView*>()->model(),
+                         &QAbstractItemModel::rowsInserted, &reading, &QEventLoop::quit);
+        Q_EMIT browser.startSymbolManager(library->path());
+        waitFor(reading);
+    }
+}
+
 void openBrowser(bool insert)
 {
-    QObject owner;
-    const QString path = makeLibrary(&owner)->databasePath();
     //! [SymbolDatabaseWidget]
     SymbolDatabaseWidget browser;
     browser.setInsertMode(insert);
     //! [SymbolDatabaseWidget]
-    Q_EMIT browser.startSymbolManager(path);
-    browser.getLockWidget()->setReadOnlyState(true);
-    // A page shows it filled; an application does not wait.
-    QEventLoop reading;
-    QObject::connect(browser.findChild<QListView*>()->model(), &QAbstractItemModel::rowsInserted,
-                     &reading, &QEventLoop::quit);
-    reading.exec();
+    fill(browser);
+    SymbolPreview* preview = previewOnThePage;
     //! [SymbolDatabaseWidget]
+    browser.getLockWidget()->setReadOnlyState(true);
     if (browser.exec() == QDialog::Accepted) {
-        const QByteArray svg = browser.getSelectedSymbol();
-        //! [SymbolDatabaseWidget]
-        OxMessageBox::information(QApplication::activeWindow(), QStringLiteral("SYMBOL"),
-                                  QString::number(svg.size()) + QStringLiteral(" bytes of SVG"));
-        //! [SymbolDatabaseWidget]
+        preview->setSymbol(browser.getSelectedSymbol());
     }
     //! [SymbolDatabaseWidget]
 }
@@ -324,7 +357,7 @@ Family symbolsFamily()
             {
                 QStringLiteral("SymbolDatabaseWidget"),
                 QStringLiteral("The dialog in which a person picks a symbol from a library."),
-                {},
+                showSymbolDatabaseWidget,
                 {
                     { QStringLiteral("insert"), QStringLiteral("Insert a symbol"),
                       [] {

@@ -136,7 +136,8 @@ GalleryWalk::Visitor::Visitor(const Gallery::GalleryWindow* behind, Script scrip
 void GalleryWalk::Visitor::look()
 {
     const QPointer<QWidget> window = Gallery::windowInFrontOf(m_behind);
-    if (m_isVisiting || window == nullptr) {
+    // A list that opens under a finger waits for the finger to be lifted.
+    if (m_isVisiting || window == nullptr || QGuiApplication::mouseButtons() != Qt::NoButton) {
         return;
     }
     m_isVisiting = true;
