@@ -31,6 +31,7 @@ QPlainTextEdit* createSnippetView()
     view->setReadOnly(true);
     view->setFocusPolicy(Qt::TabFocus); // a tap leaves the focus with the instance at hand
     view->setLineWrapMode(QPlainTextEdit::NoWrap);
+    view->setLayoutDirection(Qt::LeftToRight); // code is, wherever it is read
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSize(ApplicationFont::sizes().tiny);
     view->setFont(font);

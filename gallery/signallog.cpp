@@ -125,6 +125,7 @@ SignalLog::SignalLog(QWidget* parent)
     setReadOnly(true);
     setFocusPolicy(Qt::TabFocus); // a tap leaves the focus with the instance at hand
     setLineWrapMode(QPlainTextEdit::NoWrap);
+    setLayoutDirection(Qt::LeftToRight); // code is, wherever it is read
     setMaximumBlockCount(MaximumLines);
     setPlaceholderText(QStringLiteral("Touch an instance: its signals appear here."));
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QIcon>
+#include <QPixmap>
 
 namespace {
 
@@ -40,4 +41,13 @@ QIcon Look::listIcon(const QString& path)
     QIcon untinted = icon(path);
     untinted.addFile(path, {}, QIcon::Selected);
     return untinted;
+}
+
+QPixmap Look::picture(const QString& path, qreal devicePixelRatio)
+{
+    QPixmap plain(path);
+    if (plain.isNull() || devicePixelRatio <= 1) {
+        return plain;
+    }
+    return QIcon(path).pixmap(plain.size(), devicePixelRatio);
 }

@@ -3,7 +3,10 @@
 
 #pragma once
 
+#include <QtGlobal>
+
 class QIcon;
+class QPixmap;
 class QString;
 
 namespace Look {
@@ -19,5 +22,9 @@ QIcon icon(const QString& path);
 /// The same for items of lists: in a selected row it keeps its colours, where other icons are tinted
 /// with the selection's.
 QIcon listIcon(const QString& path);
+
+/// The image at `path`, in its own size and as sharp as a screen of that device pixel ratio shows
+/// it: QPixmap alone takes no notice of the "@2x" file beside it. Null if there is no image.
+QPixmap picture(const QString& path, qreal devicePixelRatio);
 
 } // namespace Look

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QPixmap>
 #include <QPushButton>
 
 #include <memory>
@@ -32,6 +33,9 @@ private Q_SLOTS:
     void differentImagesAreDifferentIcons();
     void readsTheImageAnewForTheNextApplicationObject();
     void allTitleBarsShareOneIcon();
+    void aPictureIsAsSharpAsTheScreen_data();
+    void aPictureIsAsSharpAsTheScreen();
+    void aPictureThatDoesNotExistIsNull();
 };
 
 void TestIcons::showsTheImage()
@@ -84,6 +88,36 @@ void TestIcons::allTitleBarsShareOneIcon()
 }
 
 // Each test makes an application object of its own.
+void TestIcons::aPictureIsAsSharpAsTheScreen_data()
+{
+    QTest::addColumn<qreal>("ratio");
+    QTest::newRow("plain screen") << 1.0;
+    QTest::newRow("screen of twice the density") << 2.0;
+}
+
+void TestIcons::aPictureIsAsSharpAsTheScreen()
+{
+    QFETCH(const qreal, ratio);
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(ratio));
+    const auto unscale = qScopeGuard([] { qunsetenv("QT_SCALE_FACTOR"); });
+    int argc = 0;
+    const QApplication application(argc, nullptr);
+    QCOMPARE(application.devicePixelRatio(), ratio);
+    const QSize size = QPixmap(closeImage()).size();
+    const QPixmap picture = Look::picture(closeImage(), ratio);
+    QCOMPARE(picture.devicePixelRatio(), ratio);
+    QCOMPARE(picture.size(), size * ratio);
+    QCOMPARE(picture.deviceIndependentSize(), QSizeF(size));
+}
+
+void TestIcons::aPictureThatDoesNotExistIsNull()
+{
+    int argc = 0;
+    const QApplication application(argc, nullptr);
+    QVERIFY(Look::picture(QStringLiteral(":/no/such.png"), 2).isNull());
+    QVERIFY(Look::picture(QString(), 2).isNull());
+}
+
 int main(int argc, char* argv[])
 {
     const ThrowAwayHome home;

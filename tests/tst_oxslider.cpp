@@ -182,6 +182,7 @@ private Q_SLOTS:
     void handleValueStartsAtZero();
     void tapSetsTheValueAtThatPoint_data();
     void tapSetsTheValueAtThatPoint();
+    void tapMovesTheHandleThereAlsoFromRightToLeft();
     void everyTapFollowsTheFormula_data();
     void everyTapFollowsTheFormula();
     void tapLeftOfTheUsableStartSetsTheMinimum();
@@ -361,6 +362,18 @@ void TestOxSlider::everyTapFollowsTheFormula()
     // All, but for what of the empty range's groove its handle can't leave.
     const int pixels = 6 * (41 + 100 + 220);
     QVERIFY2(taps > pixels - 3 * 20, qPrintable(QString::number(taps)));
+}
+
+void TestOxSlider::tapMovesTheHandleThereAlsoFromRightToLeft()
+{
+    QWidget window;
+    window.setLayoutDirection(Qt::RightToLeft);
+    auto* slider = new OxSlider(Qt::Horizontal, &window);
+    slider->setGeometry(0, 0, 300, 40);
+    const QPoint tap(60, 20);
+    QTest::mousePress(slider, Qt::LeftButton, {}, tap);
+    QVERIFY(slider->value() < 25);
+    QVERIFY(handleRect(*slider).contains(tap.x(), handleRect(*slider).center().y()));
 }
 
 void TestOxSlider::tapLeftOfTheUsableStartSetsTheMinimum()

@@ -45,13 +45,13 @@ int clampedToInt(qint64 value)
 OxSlider::OxSlider(QWidget* parent)
     : QSlider(parent)
 {
-    setObjectName(QStringLiteral("OxSlider"));
+    initialize();
 }
 
 OxSlider::OxSlider(Qt::Orientation orientation, QWidget* parent)
     : QSlider(orientation, parent)
 {
-    setObjectName(QStringLiteral("OxSlider"));
+    initialize();
 }
 
 int OxSlider::sliderHandleValue() const
@@ -98,6 +98,14 @@ void OxSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     QSlider::mouseReleaseEvent(event);
     Q_EMIT mouseWasReleasedSignal();
+}
+
+void OxSlider::initialize()
+{
+    setObjectName(QStringLiteral("OxSlider"));
+    // Ticks, numbers and taps count from the left, so the handle must too, also on a screen that is
+    // read from right to left.
+    setLayoutDirection(Qt::LeftToRight);
 }
 
 QRect OxSlider::handleRect() const

@@ -72,6 +72,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void initialize();
     QRect handleRect() const;
     int valueForTap(const QPoint& position, const QSize& handle) const;
     void paintTicks(QPainter& painter);

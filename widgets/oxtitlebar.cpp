@@ -3,6 +3,7 @@
 
 #include "oxtitlebar.h"
 
+#include "look/icons.h"
 #include "look/palette.h"
 #include "look/styledwidgetpainting.h"
 #include "look/titlebarclosebutton.h"
@@ -62,7 +63,7 @@ OxTitleBar::OxTitleBar(QWidget* parent, const QString& iconPath, const QString& 
 
 void OxTitleBar::setIconPath(const QString& iconPath)
 {
-    m_iconLabel->setPixmap(QPixmap(iconPath));
+    m_iconLabel->setPixmap(Look::picture(iconPath, devicePixelRatioF()));
 }
 
 void OxTitleBar::setTitle(const QString& title)

@@ -4,6 +4,7 @@
 #include "pages/families.h"
 
 #include "containertitlebar.h"
+#include "look/icons.h"
 #include "look/imagetable.h"
 #include "look/palette.h"
 #include "oxtitlebar.h"
@@ -100,7 +101,8 @@ void showContainerTitleBar(Stage& stage)
 QWidget* createPicture(const Look::Image& image)
 {
     auto* picture = new QLabel;
-    picture->setPixmap(QPixmap(QString::fromLatin1(image.path)));
+    picture->setPixmap(
+        Look::picture(QString::fromLatin1(image.path), picture->devicePixelRatioF()));
     picture->setAlignment(Qt::AlignCenter);
     picture->setFixedHeight(66);
     picture->setToolTip(QString::fromLatin1(image.path));
