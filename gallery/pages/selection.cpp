@@ -139,6 +139,7 @@ void showAtTheFoot(NavigationBar* bar)
     // Nothing is active after a window that had no parent.
     const QRect area = window != nullptr ? window->geometry() : QRect(QPoint(), ScreenSize);
     QDialog dialog(window, Qt::FramelessWindowHint);
+    dialog.setWindowTitle(QStringLiteral("NavigationBar")); // for screen readers
     auto* layout = new QHBoxLayout(&dialog);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(bar);
