@@ -230,6 +230,8 @@ private Q_SLOTS:
     void savingANameOfTheProcessFolderReturnsWhatWasTapped();
     void savingAnEmptyNameLeavesTheDialogOpen();
     void savingStaysInTheShownFolder();
+    void savingCleansTheName_data();
+    void savingCleansTheName();
 
     void aTappedFolderIsSelected();
     void aTypedFolderIsSelected();
@@ -1256,6 +1258,32 @@ void TestOxFileDialog::savingStaysInTheShownFolder()
         tap(user.accept);
     });
     QVERIFY(QDir::cleanPath(path).startsWith(home.desktop() + QLatin1Char('/')));
+}
+
+void TestOxFileDialog::savingCleansTheName_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a way up") << QStringLiteral("../a.txt") << QStringLiteral("a.txt");
+    QTest::newRow("a way up with a backslash")
+        << QStringLiteral("..\\a.txt") << QStringLiteral("a.txt");
+    QTest::newRow("a way up in the middle")
+        << QStringLiteral("b../../a.txt") << QStringLiteral("ba.txt");
+    QTest::newRow("a leading dot") << QStringLiteral(".a.txt") << QStringLiteral("a.txt");
+    QTest::newRow("two leading dots") << QStringLiteral("..a.txt") << QStringLiteral(".a.txt");
+    QTest::newRow("dots in the middle") << QStringLiteral("a..txt") << QStringLiteral("a..txt");
+}
+
+void TestOxFileDialog::savingCleansTheName()
+{
+    const FileDialogHome home;
+    QFETCH(QString, typed);
+    QFETCH(QString, name);
+    const QString path = saveFile([typed](const FileDialogUser& user) {
+        FileDialogUser::type(typed);
+        tap(user.accept);
+    });
+    QCOMPARE(path, home.desktop() + QLatin1Char('/') + name);
 }
 
 void TestOxFileDialog::aTappedFolderIsSelected()

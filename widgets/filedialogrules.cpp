@@ -61,12 +61,11 @@ QStringList FileDialogRules::namePatterns(const QString& text)
     return patterns;
 }
 
-QString FileDialogRules::cleanName(const QString& text)
+QString FileDialogRules::cleanName(const QString& text, const QRegularExpression& removed)
 {
-    static const QRegularExpression slashesAndDots(QStringLiteral("(\\.\\.(\\\\|\\/))|(^\\.)"));
     static const QRegularExpression wayUp(QStringLiteral("\\.\\.[\\\\/]"));
     QString name = text;
-    name.remove(slashesAndDots);
+    name.remove(removed);
     // What was removed may have kept the parts of another one apart: "a/....//b".
     while (name.contains(wayUp)) {
         name.remove(wayUp);

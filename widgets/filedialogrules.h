@@ -9,6 +9,8 @@
 #include <functional>
 #include <optional>
 
+class QRegularExpression;
+
 /*!
  * What the file dialog decides, without its widgets.
  *
@@ -43,9 +45,9 @@ bool endsGoingUp(const QString& folder, const QString& topFolder);
 /// that follow. Capitals and digits end a pattern: "*.PNG" gives "*.", "*.mp3" gives "*.mp".
 QStringList namePatterns(const QString& text);
 
-/// What a person typed, without what would lead out of the shown folder: two dots that a slash
-/// or backslash follows, or that end a path, and one leading dot.
-QString cleanName(const QString& text);
+/// What a person typed, without all that `removed` matches, and without what would then still lead
+/// out of the shown folder: two dots that a slash or backslash follows, or that end a path.
+QString cleanName(const QString& text, const QRegularExpression& removed);
 
 // --- acceptance ---------------------------------------------------------------------------------
 //

@@ -33,6 +33,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidgetItem>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalBlocker>
 
@@ -151,6 +152,9 @@ QString removeFavoriteText()
 }
 
 } // namespace
+
+const QRegularExpression
+    OxFileDialog::m_removeSlashesAndDots(QStringLiteral("(\\.\\.(\\\\|\\/))|(^\\.)"));
 
 OxFileDialog::OxFileDialog(QWidget* parent)
     : OxFileDialog(parent, Qt::WindowFlags())
@@ -275,7 +279,7 @@ void OxFileDialog::showEvent(QShowEvent* event)
 
 void OxFileDialog::acceptDialogSlot()
 {
-    const QString name = Rules::cleanName(m_fileNameBox->currentText());
+    const QString name = Rules::cleanName(m_fileNameBox->currentText(), m_removeSlashesAndDots);
     const auto exists = [](const QString& path) {
         return QFileInfo::exists(path);
     };

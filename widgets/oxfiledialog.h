@@ -25,6 +25,7 @@ class QLabel;
 class QLayout;
 class QListWidgetItem;
 class QModelIndex;
+class QRegularExpression;
 
 /*!
  * \brief Lets the person choose a file to open, a name to save under, or a folder, by finger.
@@ -178,6 +179,9 @@ private:
 
     void takeFile(const QModelIndex& index);
     int locationIndex(const QString& path) const;
+
+    /// What no typed name keeps: the ways up, and the dot that hides a file.
+    static const QRegularExpression m_removeSlashesAndDots;
 
     std::unique_ptr<FileDialogModel> m_model;
     std::unique_ptr<FileDialogFavorites> m_favorites;
