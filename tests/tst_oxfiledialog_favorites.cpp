@@ -16,6 +16,7 @@
 #include <QSignalSpy>
 
 #include <functional>
+#include <limits>
 
 namespace {
 
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void elementsOfWrongTypesDoNoHarm();
     void anAbsurdSizeIsNotBelieved_data();
     void anAbsurdSizeIsNotBelieved();
+    void anAbsurdSizeLosesNothingThatMoves();
     void addingKeepsWhatAnotherProcessAdded();
     void removingKeepsWhatAnotherProcessAdded();
 
@@ -514,6 +516,24 @@ void TestOxFileDialogFavorites::anAbsurdSizeIsNotBelieved()
     addFavorite(home.addFolder(QStringLiteral("b")));
     open([](const FileDialogUser& user) {
         QVERIFY(user.favoriteNames().contains(QStringLiteral("b")));
+    });
+}
+
+/// Beyond the largest index there is none to move to.
+void TestOxFileDialogFavorites::anAbsurdSizeLosesNothingThatMoves()
+{
+    const FileDialogHome home;
+    const QString b = home.addFolder(QStringLiteral("b"));
+    open(
+        [](const FileDialogUser& user) {
+            setElement(1, QStringLiteral("a"), QStringLiteral("/a"));
+            setStoredSize(std::numeric_limits<int>::max());
+            Finger().tap(user.favorite); // at the index where the other one has been put since
+        },
+        b);
+    open([](const FileDialogUser& user) {
+        QCOMPARE(user.favoriteNames(),
+                 fixedNames() + QStringList({ QStringLiteral("b"), QStringLiteral("a") }));
     });
 }
 

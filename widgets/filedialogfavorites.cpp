@@ -92,14 +92,15 @@ void FileDialogFavorites::store(int index, const Favorite& favorite)
 {
     QSettings settings;
     QList<Element> written { { index, favorite } };
-    int size = std::max(sizeOfArray(settings), index + 1);
     const QList<Element> elements = readElements(settings);
+    // The end is behind the last element: the size may have been written by hand.
+    int end = std::max(elements.isEmpty() ? 0 : elements.constLast().index + 1, index + 1);
     for (const Element& element : elements) {
         if (element.index == index && element.favorite.path != favorite.path) {
-            written.append({ size++, element.favorite });
+            written.append({ end++, element.favorite });
         }
     }
-    writeElements(settings, written, size);
+    writeElements(settings, written, std::max(sizeOfArray(settings), end));
     m_known.insert(favorite.path);
 }
 
