@@ -136,6 +136,8 @@ private Q_SLOTS:
     void aMediumOfAFavoritesNameLeavesTheFavorite();
     void anUnknownMediumRemovesNothing();
     void removingTheShownMediumStaysInItsFolder();
+    void aMediumThatGoesIsNoLongerOfferedForRemoval();
+    void messagesRemoveNothingButMedia();
     void unknownMessagesAreIgnored_data();
     void unknownMessagesAreIgnored();
 };
@@ -733,6 +735,49 @@ void TestOxFileDialogFavorites::removingTheShownMediumStaysInItsFolder()
         QCOMPARE(user.locationBox->currentText(), stick);
         QCOMPARE(user.listedNames(), QStringList { QStringLiteral("a.txt") });
     });
+}
+
+/// The list goes over to a neighbour of what is gone; the button must not.
+void TestOxFileDialogFavorites::aMediumThatGoesIsNoLongerOfferedForRemoval()
+{
+    const FileDialogHome home;
+    addFavorite(home.addFolder(QStringLiteral("a")));
+    const QString stick = home.addFolder(QStringLiteral("stick"));
+    open([&](const FileDialogUser& user) {
+        const QStringList before = user.favoriteNames();
+        user.receive(QStringLiteral("add"), stick);
+        user.tapFavorite(QStringLiteral("stick"));
+        QCOMPARE(user.favorite->text(), RemoveText);
+        user.receive(QStringLiteral("remove"), stick);
+        QCOMPARE(user.favorite->text(), AddText);
+        QVERIFY(user.favorites->selectedItems().isEmpty());
+        QVERIFY(user.favorites->currentItem() == nullptr);
+        QCOMPARE(user.favoriteNames(), before);
+
+        // One that is not chosen goes without a word.
+        user.receive(QStringLiteral("add"), stick);
+        user.tapFavorite(QStringLiteral("a"));
+        user.receive(QStringLiteral("remove"), stick);
+        QCOMPARE(user.favorite->text(), RemoveText);
+        QCOMPARE(user.favorites->currentItem()->text(), QStringLiteral("a"));
+    });
+}
+
+/// Whatever path a message names.
+void TestOxFileDialogFavorites::messagesRemoveNothingButMedia()
+{
+    const FileDialogHome home;
+    const QString a = home.addFolder(QStringLiteral("a"));
+    addFavorite(a);
+    const QStringList before = stored();
+    open([&](const FileDialogUser& user) {
+        for (const QString& path : { home.desktop(), home.path(), a }) {
+            user.receive(QStringLiteral("add"), path);
+            user.receive(QStringLiteral("remove"), path);
+        }
+        QCOMPARE(user.favoriteNames(), fixedNames() + QStringList { QStringLiteral("a") });
+    });
+    QCOMPARE(stored(), before);
 }
 
 void TestOxFileDialogFavorites::unknownMessagesAreIgnored_data()

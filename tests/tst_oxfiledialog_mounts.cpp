@@ -208,8 +208,10 @@ void TestOxFileDialogMounts::hostileMessagesDoNoHarm_data()
     QTest::newRow("mounts: a text") << QByteArray("mounts") << path;
     QTest::newRow("add: a list") << QByteArray("add") << paths;
     QTest::newRow("remove: a list") << QByteArray("remove") << paths;
-    QTest::newRow("remove: the home folder")
+    QTest::newRow("remove: a name of a favourite's")
         << QByteArray("remove") << FileDialogUser::bytes(QStringLiteral("/Desktop"));
+    QTest::newRow("remove: the home folder")
+        << QByteArray("remove") << FileDialogUser::bytes(QDir::homePath());
 }
 
 void TestOxFileDialogMounts::hostileMessagesDoNoHarm()

@@ -805,9 +805,16 @@ bool OxFileDialog::isFixedFavorite(const QString& name) const
 
 void OxFileDialog::deleteFavorite(QListWidgetItem* item)
 {
-    // The list selects a neighbour in place of what is taken away. The dialog must not go there.
-    const QSignalBlocker blocker(m_favoritesList->selectionModel());
-    delete item;
+    const bool isCurrent = item == m_favoritesList->currentItem();
+    {
+        // The list selects a neighbour in place of what is taken away. The dialog must not go there.
+        const QSignalBlocker blocker(m_favoritesList->selectionModel());
+        delete item;
+    }
+    if (isCurrent) { // nor may the button be for the neighbour
+        m_favoritesList->setCurrentItem(nullptr);
+        offerToRemoveFavorite(false);
+    }
 }
 
 void OxFileDialog::offerToRemoveFavorite(bool offered)
@@ -829,8 +836,8 @@ void OxFileDialog::removeMedium(const QString& path)
     const QList<QListWidgetItem*> items =
         m_favoritesList->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
     for (QListWidgetItem* item : items) {
-        // A folder of the person's own may have the same name.
-        if (item->data(PathRole).toString() == path) {
+        // A folder of the person's own may have the same name, or be what the message names.
+        if (item->data(PathRole).toString() == path && item->data(RemovableRole).toBool()) {
             deleteFavorite(item);
             removeItemFromFavorites(name);
             return;
