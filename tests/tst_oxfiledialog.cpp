@@ -11,6 +11,7 @@
 #include "support/finger.h"
 #include "support/modaldialog.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -164,7 +165,10 @@ private Q_SLOTS:
     void aCaptionIsTheWholeTitle();
     void everyTextIsTranslated_data();
     void everyTextIsTranslated();
+    void theTextsHaveTheirComments();
     void thePartsHaveFixedSizes();
+    void thePartsStandInTheirRows_data();
+    void thePartsStandInTheirRows();
     void theSheetsAreExact();
     void theListsAreMadeForFingers();
     void nothingIsClipped_data();
@@ -220,6 +224,7 @@ private Q_SLOTS:
     void enterOnAFileReturnsItOnce();
     void aDragOverTheListChoosesNothing();
     void touchPointsChooseAsWell();
+    void touchPointsEnterAFolderByADoubleTap();
 
     void savingAddsTheExtension();
     void savingKeepsAnExtension_data();
@@ -374,6 +379,8 @@ void TestOxFileDialog::everyTextIsTranslated()
         }
         QCOMPARE(user.up->accessibleName(), text);
         QCOMPARE(user.locationBox->accessibleName(), text);
+        QCOMPARE(user.files->accessibleName(), text);
+        QCOMPARE(user.favorites->accessibleName(), text);
         const auto labels =
             user.dialog->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
         for (const QLabel* label : labels) {
@@ -381,6 +388,46 @@ void TestOxFileDialog::everyTextIsTranslated()
         }
         tap(user.cancel);
     });
+}
+
+void TestOxFileDialog::theTextsHaveTheirComments()
+{
+    const FileDialogHome home;
+    const TranslationRecorder shared("QObject");
+    const TranslationRecorder own("OxFileDialog");
+    for (const State state :
+         { OxFileDialog::OpenFile, OxFileDialog::SaveFile, OxFileDialog::SelectFolder }) {
+        byState(state, [](const FileDialogUser& user) {
+            user.receive(QStringLiteral("add"), QStringLiteral("/media/STICK"));
+            user.tapFavorite(QStringLiteral("STICK"));
+            tap(user.cancel);
+        });
+    }
+    QStringList texts = shared.texts();
+    texts.sort();
+    QCOMPARE(texts.join(QLatin1Char('\n')),
+             QStringLiteral(
+                 " Dialog / Last part of the File or Folder Dialog title.\n"
+                 "Add To Favorites / Text on the button to add a folder location to a list of "
+                 "favorites.\n"
+                 "File / Middle part of the Select File Dialog title.\n"
+                 "Folder / Middle part of the Select Folder Dialog title.\n"
+                 "Open / First part of the Open File Dialog title.\n"
+                 "Remove Favorite / Text on the button for removing a favorite folder location.\n"
+                 "Save / First part of the Save File Dialog title.\n"
+                 "Select / First part of the Select File Dialog title."));
+    texts = own.texts();
+    texts.sort();
+    QCOMPARE(texts.join(QLatin1Char('\n')),
+             QStringLiteral(
+                 " Name / Label used to denote what the current 'File Name' or 'Folder Name' is "
+                 "selected.\n"
+                 "Cancel / Button text to cancel file dialog.\n"
+                 "Favorites / Header label for display favorite folder locations.\n"
+                 "Files / Accessible name of the list of files and folders.\n"
+                 "Format / Label to denote the file format selected.\n"
+                 "Location / Accessible name of the box that names the shown folder.\n"
+                 "Up / Accessible name of the button that shows the folder above."));
 }
 
 void TestOxFileDialog::thePartsHaveFixedSizes()
@@ -404,6 +451,45 @@ void TestOxFileDialog::thePartsHaveFixedSizes()
         QCOMPARE(outer->spacing(), 10);
         QCOMPARE(outer->contentsMargins(), QMargins());
         QCOMPARE(outer->itemAt(1)->layout()->contentsMargins(), QMargins(6, 6, 6, 6));
+        tap(user.cancel);
+    });
+}
+
+void TestOxFileDialog::thePartsStandInTheirRows_data()
+{
+    addStates();
+}
+
+/// Each row from left to right, one below the other.
+void TestOxFileDialog::thePartsStandInTheirRows()
+{
+    const FileDialogHome home;
+    QFETCH(State, state);
+    byState(state, [state](const FileDialogUser& user) {
+        QWidgetList lastRow { user.formatBox, user.accept, user.cancel };
+        if (state == OxFileDialog::SelectFolder) {
+            lastRow.removeFirst();
+        }
+        const QList<QWidgetList> rows { { user.dialog->findChild<ContainerTitleBar*>() },
+                                        { user.up, user.locationBox, user.favorite },
+                                        { user.favorites, user.files },
+                                        { user.nameBox },
+                                        lastRow };
+        int bottom = -1;
+        for (const QWidgetList& row : rows) {
+            int right = -1;
+            int lowest = bottom;
+            for (const QWidget* widget : row) {
+                QVERIFY(widget->geometry().top() > bottom);
+                QVERIFY(widget->geometry().left() > right);
+                right = widget->geometry().right();
+                lowest = std::max(lowest, widget->geometry().bottom());
+            }
+            bottom = lowest;
+        }
+        // The header and its list are as high as the files beside them.
+        QCOMPARE(user.favorites->geometry().bottom(), user.files->geometry().bottom());
+        QCOMPARE(user.favorites->y() - user.files->y(), 25);
         tap(user.cancel);
     });
 }
@@ -1144,6 +1230,25 @@ void TestOxFileDialog::touchPointsChooseAsWell()
         const QModelIndex index = user.item(QStringLiteral("a.txt"));
         TouchFinger().tap(user.files->viewport(), user.files->visualRect(index).center());
         TouchFinger().tap(user.accept);
+    });
+    QCOMPARE(path, file);
+}
+
+void TestOxFileDialog::touchPointsEnterAFolderByADoubleTap()
+{
+    const FileDialogHome home;
+    const QString file = home.addFile(QStringLiteral("Desktop/a.txt"));
+    const int doubleClickInterval = QApplication::doubleClickInterval();
+    const QString path = openFile([=](const FileDialogUser& user) {
+        TouchFinger finger;
+        QApplication::setDoubleClickInterval(doubleClickInterval); // which the finger has shortened
+        for (const char* name : { "Desktop", "a.txt" }) {
+            const QModelIndex index = user.item(QString::fromLatin1(name));
+            const QPoint at = user.files->visualRect(index).center();
+            finger.tap(user.files->viewport(), at);
+            finger.tap(user.files->viewport(), at);
+            QCOMPARE(user.locationBox->currentText(), home.desktop());
+        }
     });
     QCOMPARE(path, file);
 }
