@@ -118,6 +118,7 @@ private Q_SLOTS:
     void savingStoresAtTheNextIndexByItsOwnRows();
 
     void gapsAndEmptyElementsAreSkipped();
+    void elementsWithOddNumbersAreSkipped();
     void fixedNamesInTheSettingsAreSkipped();
     void elementsOfWrongTypesDoNoHarm_data();
     void elementsOfWrongTypesDoNoHarm();
@@ -449,6 +450,23 @@ void TestOxFileDialogFavorites::gapsAndEmptyElementsAreSkipped()
             user.favoriteNames(),
             fixedNames()
                 + QStringList({ QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("k") }));
+    });
+}
+
+void TestOxFileDialogFavorites::elementsWithOddNumbersAreSkipped()
+{
+    const FileDialogHome home;
+    QSettings settings;
+    for (const char* number : { "-2147483648", "-1", "0", "01", "+1", "1x", "2147483648", "x" }) {
+        const QString group =
+            QStringLiteral("fileDialog/links/%1/").arg(QString::fromLatin1(number));
+        settings.setValue(group + QStringLiteral("name"), QStringLiteral("odd"));
+        settings.setValue(group + QStringLiteral("path"), QStringLiteral("/odd"));
+    }
+    setElement(1, QStringLiteral("a"), QStringLiteral("/a"));
+    setStoredSize(10);
+    open([](const FileDialogUser& user) {
+        QCOMPARE(user.favoriteNames(), fixedNames() + QStringList { QStringLiteral("a") });
     });
 }
 

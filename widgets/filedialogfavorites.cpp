@@ -33,8 +33,8 @@ QList<Element> readElements(QSettings& settings)
     const int size = settings.value(QStringLiteral("size")).toInt();
     const QStringList numbers = settings.childGroups();
     for (const QString& number : numbers) {
-        const int index = number.toInt() - 1;
-        if (index < 0 || index >= size || number != QString::number(index + 1)) {
+        const int place = number.toInt(); // counted from 1
+        if (place < 1 || place > size || number != QString::number(place)) {
             continue;
         }
         settings.beginGroup(number);
@@ -42,7 +42,7 @@ QList<Element> readElements(QSettings& settings)
                                   settings.value(PathKey).toString() };
         settings.endGroup();
         if (favorite.isComplete()) {
-            elements.append({ index, favorite });
+            elements.append({ place - 1, favorite });
         }
     }
     settings.endGroup();
