@@ -18,10 +18,12 @@ QPushButton* Look::createTitleBarCloseButton(QWidget* parent, const QSize& size)
     button->setIcon(icon(QStringLiteral(LOOK_IMAGE_CLOSE)));
     button->setIconSize(size);
     button->setFixedSize(size);
-    // Its own sheet, so that the rules for a dialog's push buttons neither frame nor stretch it.
+    // Its own sheet, so that the rules for a dialog's push buttons neither frame nor stretch it: any
+    // of these sizes would win over the fixed one.
     button->setStyleSheet(
-        QStringLiteral("QPushButton { border: none; background: none; min-width: %1px;"
-                       " min-height: %2px; }\n"
+        QStringLiteral("QPushButton { border: none; background: none; margin: 0px; padding: 0px;"
+                       " width: %1px; height: %2px; min-width: %1px; min-height: %2px;"
+                       " max-width: %1px; max-height: %2px; }\n"
                        "QPushButton:pressed { background-color: " LOOK_ACCENT_ORANGE "; }")
             .arg(size.width())
             .arg(size.height()));

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft_data();
     void theTitleIsCutOnlyWhenTheSpacerHasNoRoomLeft();
     void aLongTitleMakesNoDialogWider();
+    void rulesForADialogsButtonsLeaveTheCloseButtonAlone_data();
     void rulesForADialogsButtonsLeaveTheCloseButtonAlone();
     void ownsItsChildren();
     void tapOnTheCloseButtonIsReportedOnceAndClosesNothing();
@@ -261,16 +262,28 @@ void TestContainerTitleBar::aLongTitleMakesNoDialogWider()
     QCOMPARE(closeButton(*bar)->geometry().right(), 200 - 10 - 1);
 }
 
+void TestContainerTitleBar::rulesForADialogsButtonsLeaveTheCloseButtonAlone_data()
+{
+    QTest::addColumn<QString>("rules");
+
+    QTest::newRow("frame and minimum")
+        << QStringLiteral("min-width: 80px; min-height: 35px; border: 3px solid red; "
+                          "background-color: red;");
+    QTest::newRow("size") << QStringLiteral("width: 55px; height: 40px;");
+    QTest::newRow("maximum") << QStringLiteral("max-width: 20px; max-height: 20px;");
+    QTest::newRow("box") << QStringLiteral("margin: 3px; padding: 5px 12px;");
+}
+
 void TestContainerTitleBar::rulesForADialogsButtonsLeaveTheCloseButtonAlone()
 {
+    QFETCH(const QString, rules);
     QWidget dialog;
-    dialog.setStyleSheet(QStringLiteral("QPushButton { min-width: 80px; min-height: 35px; "
-                                        "border: 3px solid red; background-color: red; }"));
+    dialog.setStyleSheet(QStringLiteral("QPushButton { %1 }").arg(rules));
     ContainerTitleBar bar(&dialog, QStringLiteral("Layers"));
     bar.resize(400, 46);
     dialog.show();
 
-    QCOMPARE(closeButton(bar)->size(), QSize(34, 31));
+    QCOMPARE(closeButton(bar)->geometry(), QRect(400 - 10 - 34, 7, 34, 31));
     QCOMPARE(bar.grab().toImage(), [] {
         QWidget plain;
         ContainerTitleBar other(&plain, QStringLiteral("Layers"));
