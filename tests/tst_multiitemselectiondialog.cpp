@@ -67,6 +67,8 @@ private Q_SLOTS:
     void windowFlagsAreReplaced();
     void hasTheHousesIconAndUntranslatedTitle();
     void closingNeitherDeletesItNorQuits();
+    void isGreyInAnOrangeFrame();
+    void theFrameLeavesButtonsAndListsAsTheyAre();
     void buttonsCarryTheirTextsAndComments();
     void buttonsAreHighEnoughForAFinger();
     void layoutIsExact();
@@ -118,6 +120,47 @@ void TestMultiItemSelectionDialog::closingNeitherDeletesItNorQuits()
     QVERIFY(guard != nullptr);
     QCOMPARE(lastClosed.count(), 0);
     delete dialog;
+}
+
+void TestMultiItemSelectionDialog::isGreyInAnOrangeFrame()
+{
+    MultiItemSelectionDialog dialog;
+    QCOMPARE(dialog.objectName(), QStringLiteral("MultiItemSelectionDialog"));
+    QCOMPARE(dialog.styleSheet(),
+             QStringLiteral("#MultiItemSelectionDialog { background-color: #f2f2f2; border: 1px "
+                            "solid #fd7800; } "));
+    dialog.resize(500, 400);
+    const QImage picture = dialog.grab().toImage();
+    const QColor orange(0xfd, 0x78, 0x00);
+    QCOMPARE(picture.pixelColor(0, 200), orange);
+    QCOMPARE(picture.pixelColor(499, 200), orange);
+    QCOMPARE(picture.pixelColor(250, 0), orange);
+    QCOMPARE(picture.pixelColor(250, 399), orange);
+    QCOMPARE(picture.pixelColor(4, 200), QColor(0xf2, 0xf2, 0xf2));
+}
+
+void TestMultiItemSelectionDialog::theFrameLeavesButtonsAndListsAsTheyAre()
+{
+    MultiItemSelectionDialog dialog;
+    dialog.resize(500, 400);
+    dialog.ensurePolished();
+    dialog.layout()->activate();
+    QPushButton* cancel = button(&dialog, "Cancel");
+    QDialog plainDialog;
+    QPushButton plain(QStringLiteral("Cancel"), &plainDialog);
+    plain.resize(cancel->size());
+    QCOMPARE(cancel->styleSheet(), QString());
+    QCOMPARE(cancel->sizeHint(), plain.sizeHint());
+    QCOMPARE(cancel->grab().toImage(), plain.grab().toImage());
+
+    MultiItemSelectionWidget* lists = dialog.getSelectionWidget();
+    MultiItemSelectionWidget plainLists(&plainDialog);
+    plainLists.resize(lists->size());
+    QCOMPARE(lists->styleSheet(), plainLists.styleSheet());
+    QCOMPARE(lists->getAvailableListView()->grab().toImage(),
+             plainLists.getAvailableListView()->grab().toImage());
+    QCOMPARE(lists->findChild<QPushButton*>()->grab().toImage(),
+             plainLists.findChild<QPushButton*>()->grab().toImage());
 }
 
 void TestMultiItemSelectionDialog::buttonsCarryTheirTextsAndComments()

@@ -4,6 +4,7 @@
 #include "multiitemselectiondialog.h"
 
 #include "look/housedialog.h"
+#include "look/sheets.h"
 #include "multiitemselectionwidget.h"
 #include "sharedconstants.h"
 
@@ -14,8 +15,11 @@
 MultiItemSelectionDialog::MultiItemSelectionDialog(QWidget* parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)
 {
+    setObjectName(QStringLiteral("MultiItemSelectionDialog"));
     setWindowFlags(Qt::FramelessWindowHint);
     Look::prepareHouseDialog(this);
+    // Without a window frame it would have no edge on a grey application.
+    setStyleSheet(Look::framedPanel(QStringLiteral("#MultiItemSelectionDialog")));
 
     m_importButton = new QPushButton(tr("Import", "Button text for importing a file."));
     m_okButton = new QPushButton(tr("OK", "Button text for accepting the selection dialog."));
