@@ -236,6 +236,8 @@ private Q_SLOTS:
     void searchContainersLayoutIsExact();
     void recordNavigationsLayoutIsExact();
     void theSearchButtonLiesOverTheFieldsEnd();
+    void isMirroredForLanguagesFromRightToLeft_data();
+    void isMirroredForLanguagesFromRightToLeft();
     void everythingFitsTheScreen();
     void arrowsStandOutFromTheirButtons();
     void theTabKeyWalksFromLeftToRight();
@@ -598,6 +600,61 @@ void TestNavigationBar::theSearchButtonLiesOverTheFieldsEnd()
     parts.search->grab(); // painting is what scrolls the text
     const QRect cursor = parts.search->inputMethodQuery(Qt::ImCursorRectangle).toRect();
     QVERIFY(cursor.center().x() + parts.search->x() <= parts.searchButton->x());
+}
+
+void TestNavigationBar::isMirroredForLanguagesFromRightToLeft_data()
+{
+    QTest::addColumn<bool>("fromTheStart");
+
+    QTest::newRow("from the start") << true;
+    QTest::newRow("while it is shown") << false;
+}
+
+void TestNavigationBar::isMirroredForLanguagesFromRightToLeft()
+{
+    QFETCH(const bool, fromTheStart);
+    QWidget window;
+    const auto turnRound = [&window] {
+        window.setLayoutDirection(Qt::RightToLeft);
+    };
+    if (fromTheStart) {
+        turnRound();
+    }
+    NavigationBar bar(&window);
+    bar.resize(ScreenWidth, bar.sizeHint().height());
+    bar.setRecordNumberSlot(4);
+    bar.setCurrentRecordSlot(2);
+    window.show();
+    if (!fromTheStart) {
+        turnRound();
+    }
+    bar.layout()->activate();
+    const Parts parts(bar);
+    const auto picture = [](const QPushButton* arrow) {
+        return imageOf(arrow->icon(), arrow->iconSize());
+    };
+    const QImage left = imageOf(QIcon(QStringLiteral(":/Navigation/NavigationIcons/"
+                                                     "left-nav-arrow.png")),
+                                parts.previous->iconSize());
+    const QImage right = imageOf(QIcon(QStringLiteral(":/Navigation/NavigationIcons/"
+                                                      "right-nav-arrow.png")),
+                                 parts.previous->iconSize());
+
+    // Each arrow still points away from the number between them.
+    QTRY_VERIFY(parts.previousStack->x() > parts.nextStack->x());
+    QCOMPARE(picture(parts.previous), right);
+    QCOMPARE(picture(parts.next), left);
+    // What is typed ends before the button here, too.
+    QCOMPARE(parts.searchButton->x(), parts.search->x());
+    parts.search->setText(QString(200, QChar(0x0645)));
+    parts.search->setCursorPosition(200);
+    parts.search->grab(); // painting is what scrolls the text
+    const QRect cursor = parts.search->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    QVERIFY(cursor.center().x() + parts.search->x() >= parts.searchButton->geometry().right());
+
+    window.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(picture(parts.previous), left);
+    QCOMPARE(picture(parts.next), right);
 }
 
 void TestNavigationBar::everythingFitsTheScreen()

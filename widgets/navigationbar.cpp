@@ -11,6 +11,7 @@
 #include "sharedconstants.h"
 
 #include <QCompleter>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -96,6 +97,7 @@ NavigationBar::NavigationBar(QWidget* parent)
     createZoomButtons();
     createContainers();
     layOut();
+    followLayoutDirection();
     orderTabs();
     connectChildren();
 }
@@ -217,6 +219,14 @@ void NavigationBar::navigateEditSlot()
     Q_EMIT navigateEditSignal(m_recordNumberField->text());
 }
 
+void NavigationBar::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        followLayoutDirection();
+    }
+}
+
 void NavigationBar::createRecordNavigation()
 {
     m_recordCountLabel =
@@ -238,11 +248,10 @@ void NavigationBar::createRecordNavigation()
         tr("Record", "Accessible name of the field for the number of a record."));
 
     m_previousButton =
-        createArrow("previousButton", QStringLiteral(LOOK_IMAGE_NAVIGATION_PREVIOUS),
+        createArrow("previousButton",
                     tr("Previous record", "Accessible name of the button to the previous record."));
-    m_nextButton =
-        createArrow("nextButton", QStringLiteral(LOOK_IMAGE_NAVIGATION_NEXT),
-                    tr("Next record", "Accessible name of the button to the next record."));
+    m_nextButton = createArrow(
+        "nextButton", tr("Next record", "Accessible name of the button to the next record."));
     m_previousStack = createStack(m_previousButton);
     m_nextStack = createStack(m_nextButton);
 }
@@ -257,8 +266,6 @@ void NavigationBar::createSearch()
            "Placeholder text for search a database using a set of parameters."));
     m_searchField->setStyleSheet(QStringLiteral(
         "QLineEdit { border-top-right-radius: 6px; border-bottom-right-radius: 6px; }"));
-    // The search button lies over the right end of the field.
-    m_searchField->setTextMargins(0, 0, IconButtonSize.width(), 0);
     m_searchField->setAccessibleName(
         tr("Search for", "Accessible name of the field for what is searched."));
 
@@ -378,6 +385,19 @@ void NavigationBar::layOut()
     setLayout(bar);
 }
 
+void NavigationBar::followLayoutDirection()
+{
+    // Layouts turn round by themselves, pictures and the margins of a text do not.
+    const QIcon left(QStringLiteral(LOOK_IMAGE_NAVIGATION_PREVIOUS));
+    const QIcon right(QStringLiteral(LOOK_IMAGE_NAVIGATION_NEXT));
+    m_previousButton->setIcon(isRightToLeft() ? right : left);
+    m_nextButton->setIcon(isRightToLeft() ? left : right);
+    // The search button lies over the far end of the field.
+    const int covered = IconButtonSize.width();
+    m_searchField->setTextMargins(isRightToLeft() ? covered : 0, 0, isRightToLeft() ? 0 : covered,
+                                  0);
+}
+
 void NavigationBar::orderTabs()
 {
     // As they stand, from left to right; otherwise the window opens with the focus in the field
@@ -407,11 +427,9 @@ void NavigationBar::connectChildren()
     connect(m_zoomFitButton, &QPushButton::clicked, this, &NavigationBar::zoomFitSignal);
 }
 
-QPushButton* NavigationBar::createArrow(const char* name, const QString& imagePath,
-                                        const QString& accessibleName)
+QPushButton* NavigationBar::createArrow(const char* name, const QString& accessibleName)
 {
     auto* arrow = new QPushButton;
-    arrow->setIcon(QIcon(imagePath));
     arrow->setObjectName(QLatin1String(name));
     arrow->setAutoRepeat(false);
     // The white pictures are made for the dark bar; on a light button nobody would see them.

@@ -119,6 +119,9 @@ Q_SIGNALS:
     /// Zoom so that everything fits.
     void zoomFitSignal();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void zoomInSlot();
     void zoomOutSlot();
@@ -132,10 +135,10 @@ private:
     void createZoomButtons();
     void createContainers();
     void layOut();
+    void followLayoutDirection();
     void orderTabs();
     void connectChildren();
-    QPushButton* createArrow(const char* name, const QString& imagePath,
-                             const QString& accessibleName);
+    QPushButton* createArrow(const char* name, const QString& accessibleName);
     void connectArrows();
 
     int m_currentRecord = 1;
