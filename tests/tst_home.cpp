@@ -113,6 +113,7 @@ private Q_SLOTS:
     void whatIsNoManualIsNotOpened();
     void otherMessagesAreShown();
     void theNewestMessageIsTheFirst();
+    void theOldestMessagesAreForgotten();
     void theProgramGetsTheManualOfAHelpWindow();
     void aSecondStartEndsAndIsShownInTheFirst();
 };
@@ -195,6 +196,20 @@ void TestHome::theNewestMessageIsTheFirst()
     QCopChannel::send(HomeWindow::channelName(), QStringLiteral("2"));
     QTRY_COMPARE(shown.count(), 2);
     QCOMPARE(home.findChild<QListWidget*>()->item(0)->text(), QStringLiteral("2"));
+}
+
+void TestHome::theOldestMessagesAreForgotten()
+{
+    HomeWindow home;
+    QSignalSpy shown(&home, &HomeWindow::messageShown);
+    for (int i = 1; i <= 130; ++i) {
+        QCopChannel::send(HomeWindow::channelName(), QString::number(i));
+    }
+    QTRY_COMPARE(shown.count(), 130);
+    const auto* list = home.findChild<QListWidget*>();
+    QCOMPARE(list->count(), 100);
+    QCOMPARE(list->item(0)->text(), QStringLiteral("130"));
+    QCOMPARE(list->item(99)->text(), QStringLiteral("31"));
 }
 
 void TestHome::theProgramGetsTheManualOfAHelpWindow()

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int KeptMessages = 100; // the program runs for as long as the device does
+
 /// Opens the manual and says what became of it. Any program of this user can write to the channel:
 /// only a PDF file is opened.
 QString launch(const QByteArray& bytes)
@@ -87,6 +89,7 @@ void HomeWindow::onReceived(const QString& message, const QByteArray& bytes)
         line += QStringLiteral(" ") + launch(bytes);
     }
     m_messages->insertItem(0, line);
+    delete m_messages->item(KeptMessages); // the oldest, or null
     Q_EMIT messageShown(line);
 }
 
