@@ -111,6 +111,7 @@ private Q_SLOTS:
     void theTextsHaveTheirComments();
     void theFormIsExact();
     void theEntriesAreFortyPixelsHighAndCanBeChosen();
+    void theEntriesAreAsWideAsTheListIsWhenTheyAreAdded();
 
     void listsDatabasesOfEitherCaseWithoutTheirEnding();
     void listsThemByName();
@@ -253,6 +254,16 @@ void TestDatabaseSelectorDialog::theEntriesAreFortyPixelsHighAndCanBeChosen()
     QCOMPARE(item->sizeHint().height(), 40);
     QVERIFY(item->sizeHint().width() > 0);
     QCOMPARE(item->flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+}
+
+void TestDatabaseSelectorDialog::theEntriesAreAsWideAsTheListIsWhenTheyAreAdded()
+{
+    DatabaseSelectorDialog dialog(subfolder());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dialog.populateDatabasesList(subfolder());
+    const QListWidget* list = listOf(dialog);
+    QCOMPARE(list->item(list->count() - 1)->sizeHint(), QSize(list->width(), 40));
 }
 
 void TestDatabaseSelectorDialog::listsDatabasesOfEitherCaseWithoutTheirEnding()
