@@ -5,7 +5,6 @@
 
 #include "look/palette.h"
 
-#include <QCoreApplication>
 #include <QListView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -46,8 +45,6 @@ public:
 void prepareSymbolView(QListView* view, const QSize& grid)
 {
     view->setItemDelegate(new SymbolDelegate(view));
-    view->setAccessibleName(QCoreApplication::translate(
-        "SymbolView", "Symbols", "Accessible name of a list of symbols."));
     view->setViewMode(QListView::IconMode); // first, because it sets others of these
     view->setIconSize(grid);
     view->setGridSize(grid);
