@@ -158,7 +158,7 @@ void TestSvgGate::whatIsTakenAway_data()
     QTest::addColumn<QString>("what");
     const QString files = QStringLiteral("references to files");
     const QString bitmaps =
-        QStringLiteral("embedded images other than bitmaps of 4096 x 4096 pixels");
+        QStringLiteral("embedded images other than bitmaps up to 4096 x 4096 pixels");
     const QString repeat = QStringLiteral("elements that repeat themselves");
     const QString deep = QStringLiteral("nesting deeper than 200 levels");
     const QString absurd = QStringLiteral("elements of absurd size");

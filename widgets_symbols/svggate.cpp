@@ -387,7 +387,7 @@ void Inspection::inspectReference(QStringView name, QStringView reference)
         if (!isHarmlessImage(reference)) {
             drop(element,
                  reference.startsWith(QLatin1String("data:"))
-                     ? QStringLiteral("embedded images other than bitmaps of 4096 x 4096 pixels")
+                     ? QStringLiteral("embedded images other than bitmaps up to 4096 x 4096 pixels")
                      : QStringLiteral("references to files"));
         }
     } else if (name == QLatin1String("font-face-uri")) {
