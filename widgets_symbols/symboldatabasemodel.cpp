@@ -3,6 +3,7 @@
 
 #include "symboldatabasemodel.h"
 
+#include "detachedsync.h"
 #include "logger.h"
 #include "symbolfolder.h"
 #include "symbolitem.h"
@@ -11,7 +12,6 @@
 
 #include <QFile>
 #include <QIcon>
-#include <QMutex>
 #include <QPixmap>
 #include <QSet>
 #include <QSqlDatabase>
@@ -21,53 +21,11 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <vector>
-
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
 /// The id of no symbol.
 constexpr int NoSymbol = -1;
-
-/// Has the buffers of the file system written to the medium. Nobody waits for it, not even who
-/// reads what this program prints: it would keep that pipe open.
-///
-/// Not by QProcess, which forks: with a large library in memory, that takes milliseconds, and
-/// everything that is written afterwards must be made writable again page by page, which takes
-/// longer than showing the library.
-void startSync()
-{
-    // Never destroyed, because a thread may still close a database while the process ends.
-    static QBasicMutex mutex;
-    static auto& started = *new std::vector<pid_t>;
-    const QMutexLocker lock(&mutex);
-    // Those that have ended since: nobody else does it.
-    const auto hasEnded = [](pid_t process) {
-        return waitpid(process, nullptr, WNOHANG) != 0;
-    };
-    started.erase(std::remove_if(started.begin(), started.end(), hasEnded), started.end());
-
-    posix_spawnattr_t attributes;
-    posix_spawnattr_init(&attributes);
-    // It survives the end of this process, and of its terminal.
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_adddup2(&files, STDOUT_FILENO, STDERR_FILENO);
-    char name[] = "sync";
-    char* const arguments[] = { name, nullptr };
-    pid_t process = 0;
-    if (posix_spawnp(&process, name, &files, &attributes, arguments, environ) == 0) {
-        started.push_back(process);
-    }
-    posix_spawn_file_actions_destroy(&files);
-    posix_spawnattr_destroy(&attributes);
-}
 
 int toId(const QVariant& value)
 {
@@ -455,7 +413,7 @@ void SymbolDatabaseModel::close()
                                "Error message: closing a database connection.")
                                 .arg(d->connectionName));
     }
-    startSync();
+    startDetachedSync();
 }
 
 bool SymbolDatabaseModel::startTransaction()
@@ -475,7 +433,7 @@ bool SymbolDatabaseModel::endTransaction()
 {
     QSqlDatabase connection = database();
     if (connection.commit()) {
-        startSync();
+        startDetachedSync();
         return true;
     }
     Q_EMIT errorOccured(tr("Failed to commit transaction:[%1]",
@@ -840,7 +798,7 @@ bool SymbolDatabaseModel::updateDatabase(const QString& svgFolderPath)
     if (!d->carryOut(update) || !transaction.commit()) {
         return false;
     }
-    startSync();
+    startDetachedSync();
 
     logList("Added Categories:", update.addedCategories);
     logList("Added Symbols:", namesOf(update.newSymbols));
