@@ -21,6 +21,8 @@ class TestSymbolItem : public Test
 
 private Q_SLOTS:
     void showsItsValuesUnderTheirRoles();
+    void everyNameIsKeptAsItIs_data();
+    void everyNameIsKeptAsItIs();
     void anItemShownAsIconHasNoBytes();
     void aPickableItemHasAnIconAndStaysAsItIsOtherwise();
     void anIconThatTheCacheHasForgottenIsMadeAgain();
@@ -73,6 +75,26 @@ void TestSymbolItem::showsItsValuesUnderTheirRoles()
     QCOMPARE(item.data(), QVariant(7));
     QCOMPARE(item.text(), QString());
     QVERIFY(!item.data(Qt::DecorationRole).isValid());
+}
+
+void TestSymbolItem::everyNameIsKeptAsItIs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("other letters") << QStringLiteral("Größe Ωμέγα 大");
+    QTest::newRow("beyond the first plane") << QStringLiteral("\U0001F431.svg");
+    QTest::newRow("with a null character") << QString(QChar()) + QLatin1Char('a');
+}
+
+void TestSymbolItem::everyNameIsKeptAsItIs()
+{
+    QFETCH(QString, name);
+    SymbolItem item(name, 7, QByteArray());
+    QCOMPARE(item.toolTip(), name);
+    QCOMPARE(item.toolTip().isNull(), name.isNull());
+    item.setData(8, IdRole); // which makes it a plain one
+    QCOMPARE(item.toolTip(), name);
 }
 
 void TestSymbolItem::anItemShownAsIconHasNoBytes()

@@ -772,9 +772,9 @@ QList<QStandardItem*> SymbolDatabaseModel::getItemsFromPreparedQuery(QSqlQuery q
     }
     while (!isInterrupted() && query.next()) {
         const int id = query.value(0).toInt();
-        QString name = query.value(1).toString();
+        const QString name = query.value(1).toString();
         QByteArray thumbnail = query.value(2).toByteArray();
-        auto* item = new SymbolItem(std::move(name), id, std::move(thumbnail),
+        auto* item = new SymbolItem(name, id, std::move(thumbnail),
                                     buildPixmap ? SymbolItem::Icon : SymbolItem::Bytes);
         Q_EMIT symbolReady(item);
         items.append(item);

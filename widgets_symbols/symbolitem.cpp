@@ -14,10 +14,17 @@ constexpr int ThumbnailRole = Qt::UserRole + 2;
 /// Where QStandardItem keeps its flags.
 constexpr int FlagsRole = Qt::UserRole - 1;
 
+/// As UTF-8, and a copy of that, because toUtf8() reserves three bytes for each character.
+QByteArray compact(const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return utf8.isNull() ? utf8 : QByteArray(utf8.constData(), utf8.size());
+}
+
 } // namespace
 
-SymbolItem::SymbolItem(QString name, int id, QByteArray thumbnail, Picture picture)
-    : m_name(std::move(name))
+SymbolItem::SymbolItem(const QString& name, int id, QByteArray thumbnail, Picture picture)
+    : m_name(compact(name))
     , m_thumbnail(std::move(thumbnail))
     , m_id(id)
     , m_picture(picture)
@@ -44,7 +51,7 @@ QVariant SymbolItem::data(int role) const
     if (!m_isPlain) {
         switch (role) {
         case Qt::ToolTipRole:
-            return m_name;
+            return QString::fromUtf8(m_name);
         case Qt::DecorationRole:
             return m_picture == Bytes ? QStandardItem::data(role) : makeIcon();
         case IdRole:
@@ -109,7 +116,7 @@ void SymbolItem::becomePlain()
         return;
     }
     m_isPlain = true;
-    QStandardItem::setData(m_name, Qt::ToolTipRole);
+    QStandardItem::setData(QString::fromUtf8(m_name), Qt::ToolTipRole);
     QStandardItem::setData(m_id, IdRole);
     if (m_picture != Icon) {
         QStandardItem::setData(m_thumbnail, ThumbnailRole);

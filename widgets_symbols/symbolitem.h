@@ -26,7 +26,7 @@ class SymbolItem : public QStandardItem
 public:
     enum Picture { Bytes, Icon, BytesAndIcon };
 
-    SymbolItem(QString name, int id, QByteArray thumbnail, Picture picture = Bytes);
+    SymbolItem(const QString& name, int id, QByteArray thumbnail, Picture picture = Bytes);
 
     /// Becomes what a person picks from: not editable, and with an icon. What else it shows stays.
     /// For an item that is in no model yet.
@@ -44,7 +44,8 @@ private:
     QIcon makeIcon() const;
     void becomePlain();
 
-    QString m_name;
+    /// As UTF-8: most names then need half of the memory, and few of a large library are asked for.
+    QByteArray m_name;
     QByteArray m_thumbnail;
     mutable QPixmapCache::Key m_pixmap;
     int m_id;
