@@ -79,6 +79,8 @@ private Q_SLOTS:
     void aTapWhileBusyIsIgnored();
     void aTapWhileTheLibraryIsStillReadIsIgnored();
     void aCallThatComesFromNoButtonIsIgnored();
+    void aButtonOfTheApplicationsChoosesACategory();
+    void anotherLanguageDoesNotChangeWhatTheButtonsMean();
     void nothingCanBePickedWhileACategoryIsRead();
     void anEmptyCategoryShowsNothing();
     void answersThatAreOutOfDateAreNotShown();
@@ -896,6 +898,39 @@ void TestSymbolDatabaseWidget::aCallThatComesFromNoButtonIsIgnored()
     sender.setObjectName(QStringLiteral("Cats"));
     QCOMPARE(asked.count(), 0);
     QCOMPARE(sorted(browser.names()), UsualNames);
+}
+
+void TestSymbolDatabaseWidget::aButtonOfTheApplicationsChoosesACategory()
+{
+    makeUsualLibrary();
+    const Browser browser;
+    auto button = std::make_unique<QPushButton>(QStringLiteral("Cats"));
+    connect(button.get(), &QPushButton::clicked, browser.widget.get(),
+            &SymbolDatabaseWidget::onCategoryClicked);
+    button->click(); // before there are others
+    QVERIFY(browser.isReady());
+    QCOMPARE(sorted(browser.names()), UsualNames);
+    button->click();
+    QVERIFY(browser.shows(words("cat.svg")));
+    button.reset();
+    Q_EMIT browser.widget->getItemByCategory(QStringLiteral("Road_Signs"));
+    browser.button("Arrows")->click(); // too soon
+    QVERIFY(browser.shows(words("stop.svg")));
+}
+
+void TestSymbolDatabaseWidget::anotherLanguageDoesNotChangeWhatTheButtonsMean()
+{
+    makeLibrary({ QStringLiteral("Arrows/up") });
+    makeUserSymbols(words("mine"));
+    const Browser browser;
+    QVERIFY(browser.isReady());
+    TranslationRecorder other("QObject");
+    other.setTranslation("All", QStringLiteral("Alle"));
+    other.setTranslation("User Symbols", QStringLiteral("Eigene"));
+    browser.button("User Symbols")->click();
+    QCOMPARE(browser.names(), words("mine"));
+    browser.button("All")->click();
+    QVERIFY(browser.shows(words("mine up.svg")));
 }
 
 void TestSymbolDatabaseWidget::nothingCanBePickedWhileACategoryIsRead()

@@ -270,12 +270,14 @@ void SymbolDatabaseWidget::onCategoryClicked()
     }
     if (m_requests > 0) {
         // The tap has checked its button all the same.
-        m_currentButton->setChecked(true);
+        if (m_currentButton) {
+            m_currentButton->setChecked(true);
+        }
         return;
     }
     m_currentButton = button;
-    m_userSymbolsShown = button->text() == userSymbolsLabel();
-    m_allShown = !m_userSymbolsShown && button->text() == allLabel();
+    m_userSymbolsShown = button->text() == m_userSymbolsLabel;
+    m_allShown = !m_userSymbolsShown && button->text() == m_allLabel;
     if (m_userSymbolsShown) {
         m_itemModel->clear();
         getUserSymbolItemsList();
@@ -410,10 +412,12 @@ void SymbolDatabaseWidget::createCategoryButtons(const QStringList& categoryName
     // Those of a library that was shown before.
     m_categoryContainer->clearLayout(m_categoryContainer->getToolBox()->widget()->layout());
 
-    m_currentButton = createCategoryButton(allLabel());
+    m_allLabel = allLabel();
+    m_userSymbolsLabel = userSymbolsLabel();
+    m_currentButton = createCategoryButton(m_allLabel);
     m_currentButton->setChecked(true);
     if (withUserSymbols) {
-        createCategoryButton(userSymbolsLabel());
+        createCategoryButton(m_userSymbolsLabel);
     }
     for (QString name : categoryNames) {
         createCategoryButton(name.replace(QLatin1Char('_'), QLatin1Char(' ')));

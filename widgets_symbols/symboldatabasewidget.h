@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QModelIndex>
+#include <QPointer>
 #include <QStringList>
 
 #include <memory>
@@ -129,8 +130,11 @@ private:
     LockWidget* m_lockWidget = nullptr;
     QButtonGroup* m_categoryButtons = nullptr;
     QStyle* m_categoryStyle = nullptr;
-    /// The button of the category that is shown or being read.
-    QAbstractButton* m_currentButton = nullptr;
+    /// The button of the category that is shown or being read. Maybe one of the application's.
+    QPointer<QAbstractButton> m_currentButton;
+    /// As they stand on the buttons, whatever language has been chosen since.
+    QString m_allLabel;
+    QString m_userSymbolsLabel;
     std::unique_ptr<LibraryThread> m_libraryThread;
     std::unique_ptr<SymbolDatabaseModel> m_userModel;
     QString m_libraryPath;
