@@ -44,6 +44,7 @@ private Q_SLOTS:
     void updateShowsProgressOnATerminalOnly();
     void aDrawingThatCannotBeAddedIsNamedAndNothingChanges();
     void aFailedUpdateLeavesNoNewLibraryBehind();
+    void aLibraryThatCannotBeMadeIsNotLeftBehind();
     void updateRefusesWhatIsNoFolder_data();
     void updateRefusesWhatIsNoFolder();
     void updateNeedsAWritableLibrary();
@@ -474,6 +475,22 @@ void TestSymbolLibrary::aFailedUpdateLeavesNoNewLibraryBehind()
         run({ QStringLiteral("update"), path("new.db"), path("drawings") });
     QCOMPARE(result.exitCode, 1);
     QVERIFY(!QFile::exists(path("new.db")));
+}
+
+void TestSymbolLibrary::aLibraryThatCannotBeMadeIsNotLeftBehind()
+{
+    draw(QStringLiteral("drawings/New/a.svg"));
+    const QStringList update { QStringLiteral("update"), path("new.db"), path("drawings") };
+    // As on a full disk: no file may grow beyond 4 kB.
+    const QStringList limited { QStringLiteral("-c"),
+                                QStringLiteral("trap '' XFSZ; ulimit -f 8; exec \"$@\""),
+                                QStringLiteral("sh"), QStringLiteral(SYMBOLLIBRARY) };
+    const ProgramResult result = runProgram(QStringLiteral("sh"), limited + update);
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(result.errors.contains(QLatin1String("Failed to commit transaction")),
+             qPrintable(result.errors));
+    QVERIFY(!QFile::exists(path("new.db")));
+    QCOMPARE(run(update).exitCode, 0);
 }
 
 void TestSymbolLibrary::updateRefusesWhatIsNoFolder_data()

@@ -186,7 +186,11 @@ int Commands::update(const CommandLine& line)
     }
     Library library(line.arguments.at(0));
     const bool isNew = !QFileInfo::exists(library.path());
-    if ((isNew && !library.create()) || !library.open(Library::Write)) {
+    if (isNew && !library.create()) {
+        QFile::remove(library.path()); // a file without all the tables would be refused next time
+        return Console::Failure;
+    }
+    if (!library.open(Library::Write)) {
         return Console::Failure;
     }
     UpdateRun update(library, folder, line);
