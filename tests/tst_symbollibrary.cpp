@@ -720,6 +720,14 @@ void TestSymbolLibrary::exportKeepsSymbolsOfOneNameApart()
     QCOMPARE(run("export", { path("out") }).exitCode, 0);
     QCOMPARE(QDir(path("out/Signs")).entryList(QDir::Files),
              (QStringList { QStringLiteral("up (2).svg"), QStringLiteral("up.svg") }));
+
+    m_library->sql(QStringLiteral("UPDATE Image SET CategoryId = (SELECT CategoryId FROM Image "
+                                  "WHERE Id = 1), Name = CASE Id WHEN 1 THEN 'up' WHEN 2 THEN "
+                                  "'up.svg' ELSE 'up (2)' END"));
+    QCOMPARE(run("export", { path("all"), QStringLiteral("--force") }).exitCode, 0);
+    QCOMPARE(QDir(path("all/Signs")).entryList(QDir::Files),
+             (QStringList { QStringLiteral("up (2) (2).svg"), QStringLiteral("up (2).svg"),
+                            QStringLiteral("up.svg") }));
 }
 
 void TestSymbolLibrary::exportReportsWhatItCannotWrite()

@@ -29,11 +29,12 @@ QString pathOf(const Library::Symbol& symbol, const QString& ending, QSet<QStrin
     if (base.endsWith(QLatin1String(".svg"))) {
         base.chop(4);
     }
-    const QString start = fileName(symbol.category) + QLatin1Char('/') + fileName(base);
-    QString path = start + ending;
-    if (taken.contains(path)) {
-        path = QStringLiteral("%1 (%2)%3").arg(start, QString::number(symbol.id), ending);
+    QString start = fileName(symbol.category) + QLatin1Char('/') + fileName(base);
+    // More than once if another symbol is called like one with its id.
+    while (taken.contains(start + ending)) {
+        start += QStringLiteral(" (%1)").arg(symbol.id);
     }
+    const QString path = start + ending;
     taken.insert(path);
     return path;
 }
