@@ -248,7 +248,6 @@ void TestSymbolsMenu::everyTextIsTranslatedWithItsComment()
     const Subject subject;
     QCOMPARE(recorder.texts(),
              QStringList({
-                 QStringLiteral("Search / Accessible name of the symbols' search field."),
                  QStringLiteral("Category / Accessible name of the symbols' categories."),
                  QStringLiteral("All Categories / Categories header for showing all symbols."),
              }));

@@ -41,8 +41,8 @@ public:
     }
 };
 
-/// Suggestions that scroll and are tapped like all lists of the house. A finger that goes down on one
-/// does not select it, because the field shows what is selected here: that is for the arrow keys.
+/// Suggestions that scroll and are tapped like all lists of the house. A finger that goes down on
+/// one does not select it, because the field shows what is selected here: that is for the arrow keys.
 class SuggestionList : public DragScrollListView
 {
 protected:
@@ -123,7 +123,6 @@ void SymbolsMenu::createSearchField()
 {
     m_searchField = new SymbolsLineEdit(this);
     m_searchField->setWindowIcon(Look::icon(QStringLiteral(LOOK_IMAGE_SEARCH_WINDOW)));
-    m_searchField->setAccessibleName(tr("Search", "Accessible name of the symbols' search field."));
 
     auto* completer = new QCompleter(m_model->tags(), m_searchField);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
