@@ -41,17 +41,17 @@ class QStandardItem;
  * Whoever changes the database keeps what was changed before a failure: a failure inside a
  * transaction does not undo it.
  *
- * Of two that change one file at the same moment, one may be refused with "database is locked" in its
- * message, at once or after five seconds: nothing is lost, and it can try again. No transaction takes
- * the right to write before its first change, so that readers are kept waiting no longer than need
- * be.
+ * Of two that change one file at the same moment, one may be refused with "database is locked" in
+ * its message, at once or after five seconds: nothing is lost, and it can try again. No transaction
+ * takes the right to write before its first change, so that readers are kept waiting no longer than
+ * need be.
  *
  * Nothing throws. An operation that fails emits errorOccured() and returns false, -1, or something
  * empty. One model belongs to one thread at a time and must not be destroyed during an operation.
  * Ids are never reused; -1 is none. On a thread whose interruption has been requested (see
  * QThread::requestInterruption()) every statement fails without a message, and a search that is
- * under way ends with what it has found so far. Those who call the functions that take or return classes of Qt
- * SQL link that module themselves.
+ * under way ends with what it has found so far. Those who call the functions that take or return
+ * classes of Qt SQL link that module themselves.
  */
 class UTILITYWIDGETS_EXPORT SymbolDatabaseModel : public QObject
 {
@@ -214,8 +214,8 @@ public:
      */
     Q_INVOKABLE bool updateDatabase(const QString& svgFolderPath);
     /// Is called by updateDatabase(), on its thread, once for each drawing: first the known ones,
-    /// then the others in their order, each as soon as it is stored. May look things up ("WhileOpen") but change
-    /// nothing.
+    /// then the others in their order, each as soon as it is stored. May look things up
+    /// ("WhileOpen") but change nothing.
     void setUpdateObserver(UpdateObserver observer);
 
 Q_SIGNALS:
