@@ -8,6 +8,7 @@
 #include "dragscrolllistview.h"
 #include "lockwidget.h"
 #include "sharedconstants.h"
+#include "support/countingitem.h"
 #include "support/finger.h"
 #include "support/modaldialog.h"
 #include "support/secondprocess.h"
@@ -324,19 +325,6 @@ public:
     DragScrollListView* view = nullptr;
     ContainerTitleBar* titleBar = nullptr;
     LockWidget* locks = nullptr;
-};
-
-/// Counts how often it is asked for its icon.
-class CountingItem : public QStandardItem
-{
-public:
-    static inline int count = 0;
-
-    QVariant data(int role) const override
-    {
-        count += role == Qt::DecorationRole ? 1 : 0;
-        return QStandardItem::data(role);
-    }
 };
 
 /// Notes the smallest height in which a widget of this name is ever painted, and how many are.

@@ -5,6 +5,7 @@
 
 #include "clickablecombobox.h"
 #include "dragscrolllistview.h"
+#include "support/countingitem.h"
 #include "support/finger.h"
 #include "support/symboldatabase.h"
 #include "support/syncstandin.h"
@@ -142,19 +143,6 @@ struct Subject
     ClickableComboBox* categories = nullptr;
     SymbolsLineEdit* field = nullptr;
     DragScrollListView* list = nullptr;
-};
-
-/// Counts how often it is asked for its icon.
-class CountingItem : public QStandardItem
-{
-public:
-    static inline int count = 0;
-
-    QVariant data(int role) const override
-    {
-        count += role == Qt::DecorationRole ? 1 : 0;
-        return QStandardItem::data(role);
-    }
 };
 
 } // namespace
