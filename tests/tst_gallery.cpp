@@ -11,6 +11,7 @@
 #include "gallery/tour.h"
 
 #include "containertitlebar.h"
+#include "oxfiledialog.h"
 #include "oxtitlebar.h"
 #include "sharedconstants.h"
 #include "support/finger.h"
@@ -50,6 +51,9 @@ private Q_SLOTS:
     void theTourReportsAFolderItCannotMake();
     void theListNamesEveryPictureOfTheTour();
 
+    void theFileDialogsSpareAFolderThatIsThere();
+    void theFileDialogsLeaveNothingBehind();
+
     void theShippedLibraryIsMadeOnAnotherThread();
     void theChosenSymbolIsShownLarge();
     void aSymbolThatCannotBeDrawnShowsAnEmptySheet();
@@ -86,6 +90,32 @@ QStringList pictureNames()
         }
     }
     return names;
+}
+
+/// Temporary files go to a folder of their own for as long as this lives.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder() { qputenv("TMPDIR", QFile::encodeName(m_folder.path())); }
+    ~TemporaryFolder() { qputenv("TMPDIR", m_former); }
+    Q_DISABLE_COPY_MOVE(TemporaryFolder)
+
+private:
+    const QByteArray m_former = QFile::encodeName(QDir::tempPath());
+    const QTemporaryDir m_folder;
+};
+
+void showAndCloseFileDialogs()
+{
+    const QList<Gallery::Page> pages = allPages();
+    for (const Gallery::Page& page : pages) {
+        if (page.id != QLatin1String("OxFileDialog")) {
+            continue;
+        }
+        for (const Gallery::DialogState& state : page.dialogs) {
+            whileModal<OxFileDialog>(state.open, [](OxFileDialog* dialog) { dialog->hide(); });
+        }
+    }
 }
 
 bool isBlank(const QImage& image)
@@ -250,6 +280,31 @@ void TestGallery::theListNamesEveryPictureOfTheTour()
         names.append(line.section(QLatin1Char('\t'), 1, 1));
     }
     QCOMPARE(names, pictureNames());
+}
+
+/// They show a folder of samples in the folder for temporary files, by a name that others may have
+/// taken.
+void TestGallery::theFileDialogsSpareAFolderThatIsThere()
+{
+    const TemporaryFolder temporary;
+    QVERIFY(QDir::temp().mkdir(QStringLiteral("Designs")));
+    QFile file(QDir::temp().filePath(QStringLiteral("Designs/Read me.txt")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("mine");
+    file.close();
+
+    showAndCloseFileDialogs();
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("mine"));
+    QCOMPARE(QDir(QFileInfo(file).path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList { QStringLiteral("Read me.txt") });
+}
+
+void TestGallery::theFileDialogsLeaveNothingBehind()
+{
+    const TemporaryFolder temporary;
+    showAndCloseFileDialogs();
+    QVERIFY(!QDir::temp().exists(QStringLiteral("Designs")));
 }
 
 void TestGallery::theShippedLibraryIsMadeOnAnotherThread()

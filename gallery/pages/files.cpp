@@ -30,13 +30,17 @@ QWidget* window()
 }
 
 /// A folder to choose from, for as long as a dialog shows it. Always the same path, so that
-/// pictures of the dialog do not differ; without a dot, which would make it a file's.
+/// pictures of the dialog do not differ; without a dot, which would make it a file's. If it is there
+/// already it is shown as it is, and stays so.
 class SampleFolder
 {
 public:
     SampleFolder()
+        : m_isOwn(QDir::temp().mkdir(name()))
     {
-        QDir::temp().mkdir(name());
+        if (!m_isOwn) {
+            return;
+        }
         for (const QString& folder : folders()) {
             m_folder.mkdir(folder);
         }
@@ -47,6 +51,9 @@ public:
 
     ~SampleFolder()
     {
+        if (!m_isOwn) {
+            return;
+        }
         for (const QString& file : files()) {
             m_folder.remove(file);
         }
@@ -77,6 +84,7 @@ private:
         return names;
     }
 
+    const bool m_isOwn;
     QDir m_folder = QDir(QDir::temp().filePath(name()));
 };
 
