@@ -34,7 +34,7 @@ QString pathOf(const Library::Symbol& symbol, const QString& ending, QSet<QStrin
     while (taken.contains(start + ending)) {
         start += QStringLiteral(" (%1)").arg(symbol.id);
     }
-    const QString path = start + ending;
+    QString path = start + ending;
     taken.insert(path);
     return path;
 }
