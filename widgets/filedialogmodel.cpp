@@ -51,7 +51,6 @@ FileDialogModel::FileDialogModel(const QAbstractFileIconProvider& icons, QObject
     m_thread.setObjectName(QStringLiteral("FileDialogReader"));
     m_reader->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_reader, &QObject::deleteLater);
-    connect(this, &FileDialogModel::requested, m_reader, &FileDialogReader::read);
     connect(m_reader, &FileDialogReader::entriesRead, this, &FileDialogModel::onEntriesRead);
     m_thread.start();
 }
@@ -124,7 +123,8 @@ void FileDialogModel::request()
     }
     ++m_request.serial;
     m_reader->setWanted(m_request.serial);
-    Q_EMIT requested(m_request);
+    QMetaObject::invokeMethod(m_reader,
+                              [reader = m_reader, request = m_request] { reader->read(request); });
 }
 
 void FileDialogModel::onEntriesRead(int serial, const FileDialogEntries& entries)

@@ -51,9 +51,6 @@ Q_SIGNALS:
     /// The folder has been read, for the first time or again, and the rows are what it holds.
     void folderRead();
 
-    /// For the reader.
-    void requested(const FileDialogRequest& request);
-
 private:
     void request();
     void onEntriesRead(int serial, const FileDialogEntries& entries);

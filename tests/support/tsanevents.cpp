@@ -61,6 +61,7 @@ void watchEndOfThread()
         QObject::connect(
             thread, &QThread::finished, thread, [] { __tsan_release(&ended); },
             Qt::DirectConnection);
+        __tsan_release(&ended); // its last event may be its first one
     }
 }
 
@@ -122,6 +123,13 @@ void QObject::deleteLater()
     static const auto deleteLater = qtFunction<void (*)(QObject*)>("_ZN7QObject11deleteLaterEv");
     __tsan_release(&queued);
     deleteLater(this);
+}
+
+void QThread::quit()
+{
+    static const auto quit = qtFunction<void (*)(QThread*)>("_ZN7QThread4quitEv");
+    __tsan_release(&queued);
+    quit(this);
 }
 
 bool QThread::wait(QDeadlineTimer deadline)
