@@ -4,6 +4,7 @@
 #include "oxfiledialog.h"
 
 #include "applicationfont.h"
+#include "look/sheets.h"
 #include "oxiconitemdelegate.h"
 #include "sharedconstants.h"
 #include "support/everythingtranslated.h"
@@ -110,25 +111,6 @@ public:
 private:
     const QString m_former = QDir::currentPath();
 };
-
-const QString ScrollBarSheet = QStringLiteral(
-    "QScrollBar { border: 1px solid #fd7800; background-color: #f2f2f2; }\n"
-    "QScrollBar:vertical { width: %1px; margin: 35px 0px 35px 0px; }\n"
-    "QScrollBar:horizontal { height: %1px; margin: 0px 35px 0px 35px; }\n"
-    "QScrollBar::handle { background-color: #464646; }\n"
-    "QScrollBar::handle:vertical { min-height: 35px; }\n"
-    "QScrollBar::handle:horizontal { min-width: 35px; }\n"
-    "QScrollBar::add-page, QScrollBar::sub-page { background: none; }\n"
-    "QScrollBar::add-line, QScrollBar::sub-line { border: 1px solid #fd7800; "
-    "background-color: #f2f2f2; subcontrol-origin: margin; }\n"
-    "QScrollBar::sub-line:vertical { height: 33px; subcontrol-position: top; }\n"
-    "QScrollBar::add-line:vertical { height: 33px; subcontrol-position: bottom; }\n"
-    "QScrollBar::sub-line:horizontal { width: 33px; subcontrol-position: left; }\n"
-    "QScrollBar::add-line:horizontal { width: 33px; subcontrol-position: right; }\n"
-    "QScrollBar::up-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-up.png); }\n"
-    "QScrollBar::down-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-down.png); }\n"
-    "QScrollBar::left-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-left.png); }\n"
-    "QScrollBar::right-arrow { image: url(:/module_icons/ModuleIcons/edit-arrow-right.png); }\n");
 
 const QString SelectionSheet =
     QStringLiteral("QListView { show-decoration-selected: 1; selection-color: white; "
@@ -519,7 +501,7 @@ void TestOxFileDialog::theSheetsAreExact()
                      "#d3d3d3, stop: 1 #a8a8a8); }\n"
                      "ContainerTitleBar QPushButton { border: 0px; background: none; }\n"));
         for (const QComboBox* box : { user.nameBox, user.formatBox, user.locationBox }) {
-            QCOMPARE(box->styleSheet(), combo + ScrollBarSheet.arg(35));
+            QCOMPARE(box->styleSheet(), combo + Look::scrollBars());
         }
         QCOMPARE(
             user.files->styleSheet(),
@@ -533,8 +515,8 @@ void TestOxFileDialog::theSheetsAreExact()
                     "white; }\n"
                     "QListView::item:!selected:hover { background-color: #fda800; color: white; "
                     "}\n")
-                + ScrollBarSheet.arg(35));
-        QCOMPARE(user.favorites->styleSheet(), SelectionSheet + ScrollBarSheet.arg(23));
+                + Look::scrollBars());
+        QCOMPARE(user.favorites->styleSheet(), SelectionSheet + Look::scrollBars(23));
         const auto labels =
             user.dialog->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
         const auto header = std::find_if(labels.begin(), labels.end(), [](const QLabel* label) {
