@@ -79,7 +79,8 @@ function(uw_add_platform_class file class replacement)
     set_property(GLOBAL APPEND PROPERTY UTILITYWIDGETS_PLATFORM_TARGETS ${target})
 endfunction()
 
-# Installs a program, which finds the library wherever the tree is moved to.
+# Installs a program, which finds the library wherever the tree is moved to. A distribution, whose
+# libraries are where the loader looks, configures with CMAKE_SKIP_INSTALL_RPATH.
 function(uw_install_program target component)
     cmake_path(
         RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}"

@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 
 # What is installed: the library in the component UtilityWidgets_Runtime; headers, CMake package
-# and pkg-config file in UtilityWidgets_Development; and what the folders of the programs add in
-# UtilityWidgets_Tools and UtilityWidgets_Gallery. Distributions make a package of each. Nothing in the installed files holds an
-# absolute path as long as the CMAKE_INSTALL_*DIR are relative, so that the whole tree may be
-# staged with DESTDIR, installed with --prefix or moved.
+# and pkg-config file in UtilityWidgets_Development; the programs, by their own folders, in
+# UtilityWidgets_Tools and UtilityWidgets_Gallery. Distributions make a package of each component.
+# Nothing in the installed files holds an absolute path as long as the CMAKE_INSTALL_*DIR are
+# relative, so that the whole tree may be staged with DESTDIR, installed with --prefix or moved.
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/UtilityWidgets")
 set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/UtilityWidgets")
