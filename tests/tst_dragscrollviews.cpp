@@ -15,12 +15,14 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPointingDevice>
 #include <QProxyStyle>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QWindow>
 
@@ -214,6 +216,8 @@ private Q_SLOTS:
     void fingerThatReturnsToItsStartHasDragged();
     void dragKeepsTheSelectionOfItsPress_data() { addFingerRows(); }
     void dragKeepsTheSelectionOfItsPress();
+    void dragKeepsAllThatWasSelected_data() { addFingerRows(); }
+    void dragKeepsAllThatWasSelected();
     void movingSelectsNoRange_data() { addFingerRows(); }
     void movingSelectsNoRange();
     void releaseOutsideTheViewEndsTheDrag_data() { addFingerRows(); }
@@ -224,6 +228,10 @@ private Q_SLOTS:
     void dragTogglesNoCheckBox();
     void dragLeavesSignalsAsBlockedAsTheyWere_data() { addViewRows(); }
     void dragLeavesSignalsAsBlockedAsTheyWere();
+    void mayBeDeletedByASlotOfItsScrollBars_data() { addViewRows(); }
+    void mayBeDeletedByASlotOfItsScrollBars();
+    void mayBeDeletedDuringTheReleaseOfADrag_data();
+    void mayBeDeletedDuringTheReleaseOfADrag();
     void secondPressKeepsThePressPoint_data() { addViewRows(); }
     void secondPressKeepsThePressPoint();
     void doubleClickStartsAGesture_data() { addViewRows(); }
@@ -486,6 +494,27 @@ void TestDragScrollViews::dragKeepsTheSelectionOfItsPress()
     QCOMPARE(view->currentIndex(), pressed);
 }
 
+void TestDragScrollViews::dragKeepsAllThatWasSelected()
+{
+    SHOW_SUBJECT_AND_FINGER;
+    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    const QModelIndex pressed = view->indexAt(subject.middle());
+    const QItemSelection selection(pressed.siblingAtRow(pressed.row() - 1),
+                                   pressed.siblingAtRow(pressed.row() + 1));
+    view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    QSignalSpy changed(view->selectionModel(), &QItemSelectionModel::selectionChanged);
+
+    finger->press(view->viewport(), subject.middle());
+    finger->moveBy(QPoint(0, -30));
+    finger->release();
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(view->selectionModel()->selection().indexes().count(), 3);
+
+    finger->tap(view->viewport(), subject.middle() - QPoint(0, 30));
+    QVERIFY(view->selectionModel()->isSelected(pressed));
+    QVERIFY(!view->selectionModel()->isSelected(pressed.siblingAtRow(pressed.row() - 1)));
+}
+
 void TestDragScrollViews::movingSelectsNoRange()
 {
     SHOW_SUBJECT_AND_FINGER;
@@ -576,6 +605,84 @@ void TestDragScrollViews::dragLeavesSignalsAsBlockedAsTheyWere()
         finger.release();
         QCOMPARE(view->signalsBlocked(), blocked);
     }
+}
+
+void TestDragScrollViews::mayBeDeletedByASlotOfItsScrollBars()
+{
+    for (const Qt::Orientation scrolled : { Qt::Vertical, Qt::Horizontal }) {
+        SHOW_SUBJECT;
+        subject.setHorizontalMovementEnabled(true);
+        const QPointer<QAbstractItemView> alive(view);
+        QScrollBar* bar = scrolled == Qt::Vertical ? subject.vertical() : subject.horizontal();
+        connect(bar, &QScrollBar::valueChanged, subject.window.get(), [view] { delete view; });
+        Finger finger;
+        finger.press(view->viewport(), subject.middle());
+        finger.moveBy(QPoint(-20, -20));
+        QVERIFY(!alive);
+        finger.release();
+    }
+}
+
+namespace {
+
+/// What deletes its view when it is offered the release of a finger.
+class FatalDelegate : public QStyledItemDelegate
+{
+public:
+    explicit FatalDelegate(QAbstractItemView* view)
+        : m_view(view)
+    { }
+
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override
+    {
+        if (event->type() == QEvent::MouseButtonRelease) {
+            delete m_view;
+            return false;
+        }
+        return QStyledItemDelegate::editorEvent(event, model, option, index);
+    }
+
+private:
+    const QPointer<QAbstractItemView> m_view;
+};
+
+/// A view with an editor open, which offers its delegate every release.
+template <typename View> class EditingView : public View
+{
+public:
+    using View::View;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        this->setState(QAbstractItemView::EditingState);
+        View::mouseReleaseEvent(event);
+    }
+};
+
+} // namespace
+
+void TestDragScrollViews::mayBeDeletedDuringTheReleaseOfADrag_data()
+{
+    QTest::addColumn<MakeSubject>("make");
+    // The lists have more to do after their delegates, in the toolkit's own code.
+    QTest::newRow("table view") << MakeSubject(createSubject<EditingView<DragScrollTableView>>);
+    QTest::newRow("tree view") << MakeSubject(createSubject<EditingView<DragScrollTreeView>>);
+}
+
+void TestDragScrollViews::mayBeDeletedDuringTheReleaseOfADrag()
+{
+    SHOW_SUBJECT;
+    const QPointer<QAbstractItemView> alive(view);
+    FatalDelegate delegate(view);
+    view->setItemDelegate(&delegate);
+    Finger finger;
+    finger.press(view->viewport(), subject.middle());
+    finger.moveBy(QPoint(0, -20));
+    QVERIFY(alive);
+    finger.release();
+    QVERIFY(!alive);
 }
 
 void TestDragScrollViews::secondPressKeepsThePressPoint()

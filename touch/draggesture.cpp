@@ -122,4 +122,20 @@ ScrollPause::~ScrollPause()
     }
 }
 
+SwallowedRelease::SwallowedRelease(QAbstractItemView* view, bool& swallowing)
+    : m_view(view)
+    , m_swallowing(swallowing)
+    , m_wereSignalsBlocked(view->blockSignals(true))
+{
+    m_swallowing = true;
+}
+
+SwallowedRelease::~SwallowedRelease()
+{
+    if (m_view) {
+        m_swallowing = false;
+        m_view->blockSignals(m_wereSignalsBlocked);
+    }
+}
+
 } // namespace Touch

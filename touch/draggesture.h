@@ -92,4 +92,25 @@ private:
     QPointer<QAbstractItemView> m_view; // null: nothing to restore
 };
 
+/*!
+ * Silences a view while it handles the release of a drag: blocks its signals and raises the flag by
+ * which its overrides know that nothing may be edited or selected either. With the signals blocked
+ * nobody would hear of it.
+ *
+ * The view, and the flag with it, may be deleted meanwhile.
+ */
+class SwallowedRelease
+{
+public:
+    /// `swallowing` is a member of `view`.
+    SwallowedRelease(QAbstractItemView* view, bool& swallowing);
+    ~SwallowedRelease();
+    Q_DISABLE_COPY_MOVE(SwallowedRelease)
+
+private:
+    const QPointer<QAbstractItemView> m_view;
+    bool& m_swallowing;
+    const bool m_wereSignalsBlocked;
+};
+
 } // namespace Touch

@@ -6,8 +6,6 @@
 #include "touch/draggesture.h"
 
 #include <QMouseEvent>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
 
 DragScrollListView::DragScrollListView(QWidget* parent)
     : QListView(parent)
@@ -72,8 +70,7 @@ void DragScrollListView::mouseReleaseEvent(QMouseEvent* event)
         QListView::mouseReleaseEvent(event);
         return;
     }
-    const QScopedValueRollback swallowing(m_swallowingRelease, true);
-    const QSignalBlocker blocker(this);
+    const Touch::SwallowedRelease swallowing(this, m_swallowingRelease);
     QListView::mouseReleaseEvent(event);
 }
 
@@ -85,12 +82,19 @@ void DragScrollListView::focusOutEvent(QFocusEvent* event)
 
 bool DragScrollListView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    // The release of a drag must not toggle a check box or start an editor: with the signals
-    // blocked, nobody would even hear of it.
+    // The release of a drag must not toggle a check box or start an editor.
     if (m_swallowingRelease) {
         return false;
     }
     return Touch::holdsFocus(indexWidget(index)) || QListView::edit(index, trigger, event);
+}
+
+QItemSelectionModel::SelectionFlags DragScrollListView::selectionCommand(const QModelIndex& index,
+                                                                         const QEvent* event) const
+{
+    // What the press of a drag has selected remains.
+    return m_swallowingRelease ? QItemSelectionModel::NoUpdate
+                               : QListView::selectionCommand(index, event);
 }
 
 #include "moc_dragscrolllistview.cpp"

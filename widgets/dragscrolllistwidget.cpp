@@ -6,8 +6,6 @@
 #include "touch/draggesture.h"
 
 #include <QMouseEvent>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
 
 DragScrollListWidget::DragScrollListWidget(QWidget* parent)
     : QListWidget(parent)
@@ -73,8 +71,7 @@ void DragScrollListWidget::mouseReleaseEvent(QMouseEvent* event)
         QListView::mouseReleaseEvent(event);
         return;
     }
-    const QScopedValueRollback swallowing(m_swallowingRelease, true);
-    const QSignalBlocker blocker(this);
+    const Touch::SwallowedRelease swallowing(this, m_swallowingRelease);
     QListView::mouseReleaseEvent(event);
 }
 
@@ -86,12 +83,19 @@ void DragScrollListWidget::focusOutEvent(QFocusEvent* event)
 
 bool DragScrollListWidget::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    // The release of a drag must not toggle a check box or start an editor: with the signals
-    // blocked, nobody would even hear of it.
+    // The release of a drag must not toggle a check box or start an editor.
     if (m_swallowingRelease) {
         return false;
     }
     return Touch::holdsFocus(indexWidget(index)) || QListWidget::edit(index, trigger, event);
+}
+
+QItemSelectionModel::SelectionFlags
+DragScrollListWidget::selectionCommand(const QModelIndex& index, const QEvent* event) const
+{
+    // What the press of a drag has selected remains.
+    return m_swallowingRelease ? QItemSelectionModel::NoUpdate
+                               : QListWidget::selectionCommand(index, event);
 }
 
 #include "moc_dragscrolllistwidget.cpp"

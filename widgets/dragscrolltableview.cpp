@@ -7,8 +7,6 @@
 
 #include <QAbstractButton>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
 
 DragScrollTableView::DragScrollTableView(QWidget* parent)
     : QTableView(parent)
@@ -79,8 +77,7 @@ void DragScrollTableView::mouseReleaseEvent(QMouseEvent* event)
         QAbstractItemView::mouseReleaseEvent(event);
         return;
     }
-    const QScopedValueRollback swallowing(m_swallowingRelease, true);
-    const QSignalBlocker blocker(this);
+    const Touch::SwallowedRelease swallowing(this, m_swallowingRelease);
     QAbstractItemView::mouseReleaseEvent(event);
 }
 
@@ -92,12 +89,19 @@ void DragScrollTableView::focusOutEvent(QFocusEvent* event)
 
 bool DragScrollTableView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    // The release of a drag must not toggle a check box or start an editor: with the signals
-    // blocked, nobody would even hear of it.
+    // The release of a drag must not toggle a check box or start an editor.
     if (m_swallowingRelease) {
         return false;
     }
     return Touch::holdsFocus(indexWidget(index)) || QTableView::edit(index, trigger, event);
+}
+
+QItemSelectionModel::SelectionFlags DragScrollTableView::selectionCommand(const QModelIndex& index,
+                                                                          const QEvent* event) const
+{
+    // What the press of a drag has selected remains.
+    return m_swallowingRelease ? QItemSelectionModel::NoUpdate
+                               : QTableView::selectionCommand(index, event);
 }
 
 #include "moc_dragscrolltableview.cpp"

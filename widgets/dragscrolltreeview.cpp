@@ -6,8 +6,7 @@
 #include "touch/draggesture.h"
 
 #include <QMouseEvent>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
+#include <QPointer>
 
 DragScrollTreeView::DragScrollTreeView(QWidget* parent)
     : QTreeView(parent)
@@ -74,13 +73,15 @@ void DragScrollTreeView::mouseReleaseEvent(QMouseEvent* event)
         QTreeView::mouseReleaseEvent(event);
         return;
     }
-    const QScopedValueRollback swallowing(m_swallowingRelease, true);
-    const QSignalBlocker blocker(this);
+    const Touch::SwallowedRelease swallowing(this, m_swallowingRelease);
     // Some styles unfold a branch when its mark is released.
+    const QPointer<DragScrollTreeView> self(this);
     const bool expandable = itemsExpandable();
     setItemsExpandable(false);
     QTreeView::mouseReleaseEvent(event);
-    setItemsExpandable(expandable);
+    if (self) {
+        setItemsExpandable(expandable);
+    }
 }
 
 void DragScrollTreeView::focusOutEvent(QFocusEvent* event)
@@ -91,12 +92,19 @@ void DragScrollTreeView::focusOutEvent(QFocusEvent* event)
 
 bool DragScrollTreeView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    // The release of a drag must not toggle a check box or start an editor: with the signals
-    // blocked, nobody would even hear of it.
+    // The release of a drag must not toggle a check box or start an editor.
     if (m_swallowingRelease) {
         return false;
     }
     return Touch::holdsFocus(indexWidget(index)) || QTreeView::edit(index, trigger, event);
+}
+
+QItemSelectionModel::SelectionFlags DragScrollTreeView::selectionCommand(const QModelIndex& index,
+                                                                         const QEvent* event) const
+{
+    // What the press of a drag has selected remains.
+    return m_swallowingRelease ? QItemSelectionModel::NoUpdate
+                               : QTreeView::selectionCommand(index, event);
 }
 
 #include "moc_dragscrolltreeview.cpp"
