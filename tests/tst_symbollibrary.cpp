@@ -16,6 +16,7 @@
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 class TestSymbolLibrary : public Test
@@ -438,8 +439,15 @@ void TestSymbolLibrary::updateShowsProgressOnATerminalOnly()
     const ProgramResult result =
         runProgram(QStringLiteral(SYMBOLLIBRARY), arguments, QString(), name);
     QCOMPARE(result.exitCode, 0);
-    QByteArray shown(4096, '\0');
-    shown.resize(::read(terminal, shown.data(), size_t(shown.size())));
+    // It comes in pieces.
+    QByteArray shown;
+    pollfd readable { terminal, POLLIN, 0 };
+    while (!shown.contains("Inspecting") || !shown.endsWith("\r\x1b[K")) {
+        QVERIFY2(::poll(&readable, 1, 30000) == 1, shown.constData());
+        QByteArray piece(4096, '\0');
+        piece.resize(::read(terminal, piece.data(), size_t(piece.size())));
+        shown += piece;
+    }
     ::close(other);
     ::close(terminal);
     QVERIFY2(shown.startsWith("\rAdding 1 of 20\x1b[K"), shown.constData());
