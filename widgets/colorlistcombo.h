@@ -29,6 +29,8 @@
 class UTILITYWIDGETS_EXPORT ColorListCombo : public QComboBox
 {
     Q_OBJECT
+    // Not for a form, whose entries have no colours.
+    Q_PROPERTY(int colorIndex READ currentIndex WRITE setColorIndex DESIGNABLE false STORED false)
 
 public:
     /// What every entry carries beside its name, both as QString. Qt::BackgroundRole and

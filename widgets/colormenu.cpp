@@ -120,6 +120,30 @@ void ColorMenu::setColorPallete(const QStringList& colors, const QString& select
     setTransparentColorVisible(showTransparent);
 }
 
+QStringList ColorMenu::colors() const
+{
+    QStringList colors;
+    for (const QPushButton* button : m_colorButtons) {
+        colors.append(colorOf(button));
+    }
+    return colors;
+}
+
+void ColorMenu::setColors(const QStringList& colors)
+{
+    setColorPallete(colors, QString());
+}
+
+QString ColorMenu::selectedColor() const
+{
+    return m_selectedColor;
+}
+
+int ColorMenu::maxColumnCount() const
+{
+    return m_maxColumnCount;
+}
+
 void ColorMenu::setMaxColumnCount(int count)
 {
     m_maxColumnCount = count;
@@ -130,6 +154,11 @@ void ColorMenu::setTransparentColorVisible(bool visible)
     if (m_transparentButton != nullptr) {
         m_transparentButton->setVisible(visible);
     }
+}
+
+bool ColorMenu::isTransparentColorVisible() const
+{
+    return m_transparentButton != nullptr && !m_transparentButton->isHidden();
 }
 
 void ColorMenu::updateSelectedColor(QPushButton* button)

@@ -31,6 +31,12 @@ class QPushButton;
 class UTILITYWIDGETS_EXPORT ColorMenu : public QWidget
 {
     Q_OBJECT
+    // In the order in which they take effect: a form sets them in this one.
+    Q_PROPERTY(int maxColumnCount READ maxColumnCount WRITE setMaxColumnCount)
+    Q_PROPERTY(QStringList colors READ colors WRITE setColors)
+    Q_PROPERTY(QString selectedColor READ selectedColor WRITE updateSelectedColor)
+    Q_PROPERTY(bool transparentColorVisible READ isTransparentColorVisible WRITE
+                   setTransparentColorVisible)
 
 public:
     explicit ColorMenu(QWidget* parent = nullptr);
@@ -44,13 +50,25 @@ public:
      */
     void setColorPallete(const QStringList& colors, const QString& selectedColor);
 
+    /// What the swatches stand for, in their order.
+    QStringList colors() const;
+    /// setColorPallete() that leaves the colour chosen before marked.
+    void setColors(const QStringList& colors);
+
+    /// The colour chosen last, by the person or by a setter, whether it is marked or not; empty
+    /// before the first one.
+    QString selectedColor() const;
+
     /// How many swatches stand in a row, from the next setColorPallete() on; 4 until set. With 0 or
     /// less all of them stand in one row.
+    int maxColumnCount() const;
     void setMaxColumnCount(int count);
 
     /// Shows or hides the swatch of "transparent", the last one if there are several. Does nothing
     /// while the palette has none, so it is to be called after setColorPallete().
     void setTransparentColorVisible(bool visible);
+    /// Whether that swatch is there and shown, in a menu that may itself be hidden.
+    bool isTransparentColorVisible() const;
 
     /// Marks `button`, one of this menu's, as the only chosen one. No signal is emitted; null is
     /// ignored.

@@ -34,6 +34,11 @@ void ContainerDialog::setContainedWidget(QLayout* layout)
     m_containedArea.setLayout(layout);
 }
 
+QString ContainerDialog::headerLabelText() const
+{
+    return m_titleBar->title();
+}
+
 void ContainerDialog::setHeaderLabelText(const QString& text)
 {
     m_titleBar->setTitle(text);

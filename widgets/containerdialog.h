@@ -36,6 +36,7 @@ class QLayout;
 class UTILITYWIDGETS_EXPORT ContainerDialog : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(QString headerLabelText READ headerLabelText WRITE setHeaderLabelText)
 
 public:
     /// A dialog that shows nothing but its title bar until setContainedWidget() is called.
@@ -45,6 +46,7 @@ public:
     /// widgets with it. Call it once: Qt refuses a second layout with a warning, and that one stays
     /// the caller's.
     void setContainedWidget(QLayout* layout);
+    QString headerLabelText() const;
     /// Replaces the title. See ContainerTitleBar::setTitle().
     void setHeaderLabelText(const QString& text);
 

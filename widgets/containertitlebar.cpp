@@ -49,6 +49,11 @@ ContainerTitleBar::ContainerTitleBar(QWidget* parent, const QString& title)
     connect(m_closeButton, &QPushButton::clicked, this, &ContainerTitleBar::closeButtonClicked);
 }
 
+QString ContainerTitleBar::title() const
+{
+    return m_titleLabel->text();
+}
+
 void ContainerTitleBar::setTitle(const QString& title)
 {
     m_titleLabel->setText(title);

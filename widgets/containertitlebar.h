@@ -24,11 +24,13 @@ class QPushButton;
 class UTILITYWIDGETS_EXPORT ContainerTitleBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
     /// A `title` that has no room in the bar ends in an ellipsis.
     explicit ContainerTitleBar(QWidget* parent = nullptr, const QString& title = QString());
 
+    QString title() const;
     /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
     /// escape names that come from outside with QString::toHtmlEscaped().
     void setTitle(const QString& title);

@@ -18,6 +18,11 @@ DragScrollListView::DragScrollListView(QWidget* parent)
 
 DragScrollListView::~DragScrollListView() = default;
 
+bool DragScrollListView::isHorizontalMovementEnabled() const
+{
+    return m_horizontalMovementEnabled;
+}
+
 void DragScrollListView::setHorizontalMovementEnabled(bool enabled)
 {
     m_horizontalMovementEnabled = enabled;

@@ -37,6 +37,8 @@ class DragGesture;
 class UTILITYWIDGETS_EXPORT DragScrollListView : public QListView
 {
     Q_OBJECT
+    Q_PROPERTY(bool horizontalMovementEnabled READ isHorizontalMovementEnabled WRITE
+                   setHorizontalMovementEnabled)
 
 public:
     explicit DragScrollListView(QWidget* parent = nullptr);
@@ -44,6 +46,7 @@ public:
 
     /// Whether a horizontal drag scrolls too, and then counts as a drag like a vertical one. Off at
     /// first: a finger that moves sideways taps.
+    bool isHorizontalMovementEnabled() const;
     void setHorizontalMovementEnabled(bool enabled);
 
     /// Moves `bar` by `previous` - `current`, coordinates of a finger in pixels, and no further

@@ -19,6 +19,11 @@ DragScrollListWidget::DragScrollListWidget(QWidget* parent)
 
 DragScrollListWidget::~DragScrollListWidget() = default;
 
+bool DragScrollListWidget::isHorizontalMovementEnabled() const
+{
+    return m_horizontalMovementEnabled;
+}
+
 void DragScrollListWidget::setHorizontalMovementEnabled(bool enabled)
 {
     m_horizontalMovementEnabled = enabled;

@@ -25,6 +25,11 @@ DragScrollTableView::DragScrollTableView(QWidget* parent)
 
 DragScrollTableView::~DragScrollTableView() = default;
 
+bool DragScrollTableView::isHorizontalMovementEnabled() const
+{
+    return m_horizontalMovementEnabled;
+}
+
 void DragScrollTableView::setHorizontalMovementEnabled(bool enabled)
 {
     m_horizontalMovementEnabled = enabled;

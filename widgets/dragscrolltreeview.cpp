@@ -19,6 +19,11 @@ DragScrollTreeView::DragScrollTreeView(QWidget* parent)
 
 DragScrollTreeView::~DragScrollTreeView() = default;
 
+bool DragScrollTreeView::isHorizontalMovementEnabled() const
+{
+    return m_horizontalMovementEnabled;
+}
+
 void DragScrollTreeView::setHorizontalMovementEnabled(bool enabled)
 {
     m_horizontalMovementEnabled = enabled;

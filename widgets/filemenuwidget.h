@@ -43,7 +43,7 @@ public:
 
     /// Adds `item`, usually a button, below the others. All items share the height equally and
     /// stand in its middle at the width they ask for. The panel owns `item` from now on.
-    void addMenuItem(QWidget* item);
+    Q_INVOKABLE void addMenuItem(QWidget* item);
 
 Q_SIGNALS:
     /// The panel itself has lost the keyboard focus, for whatever reason, to one of its items too:

@@ -48,6 +48,21 @@ LockWidget::LockWidget(QWidget* parent)
     : LockWidget(false, parent)
 { }
 
+bool LockWidget::lockState() const
+{
+    return m_lockBox.isChecked();
+}
+
+bool LockWidget::readOnlyState() const
+{
+    return m_readOnlyBox.isChecked();
+}
+
+bool LockWidget::userBackgroundState() const
+{
+    return m_userBackgroundBox.isChecked();
+}
+
 void LockWidget::setLockState(bool checked)
 {
     m_lockBox.setChecked(checked);

@@ -32,12 +32,23 @@
 class UTILITYWIDGETS_EXPORT LockWidget : public QWidget
 {
     Q_OBJECT
+    // In the order in which the setters are to be called: a form sets them in this one.
+    Q_PROPERTY(bool lockState READ lockState WRITE setLockState)
+    Q_PROPERTY(bool readOnlyState READ readOnlyState WRITE setReadOnlyState)
+    Q_PROPERTY(bool userBackgroundState READ userBackgroundState WRITE setUserBackgroundState)
 
 public:
     /// One row of boxes when `horizontal`, otherwise a grid under the header "Lock Options".
     LockWidget(bool horizontal, QWidget* parent);
     /// The grid.
     explicit LockWidget(QWidget* parent = nullptr);
+
+    /// \name Whether a box is checked, by the person or by its setter
+    /// @{
+    bool lockState() const;
+    bool readOnlyState() const;
+    bool userBackgroundState() const;
+    /// @}
 
 public Q_SLOTS:
     /// Checks or unchecks the lock box. Like the other setters it emits no signal.

@@ -279,6 +279,11 @@ void MultiItemSelectionWidget::setSelectionLimit(int limit)
     m_selectionLimit = limit;
 }
 
+bool MultiItemSelectionWidget::isManualOrdering() const
+{
+    return m_manualOrdering;
+}
+
 void MultiItemSelectionWidget::setManualOrdering(bool manual)
 {
     m_manualOrdering = manual;

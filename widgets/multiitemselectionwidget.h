@@ -61,6 +61,8 @@ UTILITYWIDGETS_EXPORT bool descendingQModelIndexRowCompare(const QModelIndex& fi
 class UTILITYWIDGETS_EXPORT MultiItemSelectionWidget : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int selectionLimit READ getSelectionLimit WRITE setSelectionLimit)
+    Q_PROPERTY(bool manualOrdering READ isManualOrdering WRITE setManualOrdering)
 
 public:
     explicit MultiItemSelectionWidget(QWidget* parent = nullptr);
@@ -78,6 +80,7 @@ public:
      * sorting both lists; off at first. The present order is not changed.
      */
     void setManualOrdering(bool manual);
+    bool isManualOrdering() const;
 
     /// \name The two lists
     /// Owned by the widget, as are their models. For their look and for their selection: change

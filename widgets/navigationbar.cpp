@@ -114,6 +114,41 @@ QString NavigationBar::searchString() const
     return m_searchField->text();
 }
 
+bool NavigationBar::isBarEnabled() const
+{
+    // Not isEnabled(): the whole bar may be disabled from outside.
+    return m_searchField->isEnabledTo(m_searchField->parentWidget());
+}
+
+int NavigationBar::lastRecord() const
+{
+    return m_recordCount - 1;
+}
+
+int NavigationBar::currentRecord() const
+{
+    return m_currentRecord - 1;
+}
+
+QStringList NavigationBar::searchByTerms() const
+{
+    QStringList terms;
+    for (int i = 0; i < m_searchByCombo->count(); ++i) {
+        terms.append(m_searchByCombo->itemText(i));
+    }
+    return terms;
+}
+
+QStringList NavigationBar::searchCompletions() const
+{
+    return m_completionModel->stringList();
+}
+
+QString NavigationBar::searchPlaceholder() const
+{
+    return m_searchField->placeholderText();
+}
+
 void NavigationBar::installAddon(QLayout* layout)
 {
     if (layout == nullptr) {

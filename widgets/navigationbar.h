@@ -48,6 +48,12 @@ class QStringListModel;
 class UTILITYWIDGETS_EXPORT NavigationBar : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(bool barEnabled READ isBarEnabled WRITE setBarEnabled)
+    Q_PROPERTY(int lastRecord READ lastRecord WRITE setRecordNumberSlot)
+    Q_PROPERTY(int currentRecord READ currentRecord WRITE setCurrentRecordSlot)
+    Q_PROPERTY(QStringList searchByTerms READ searchByTerms WRITE setSearchByTerms)
+    Q_PROPERTY(QStringList searchCompletions READ searchCompletions WRITE setSearchCompletions)
+    Q_PROPERTY(QString searchPlaceholder READ searchPlaceholder WRITE setSearchPlaceholder)
 
 public:
     explicit NavigationBar(QWidget* parent = nullptr);
@@ -57,6 +63,18 @@ public:
     QString searchTerm() const;
     /// What the person searches for: the text of the search field.
     QString searchString() const;
+
+    /// \name What the setters and slots below were told
+    /// @{
+    bool isBarEnabled() const;
+    /// The index of the last record, -1 if there is none; 0 at first.
+    int lastRecord() const;
+    /// The index of the record shown; 0 at first.
+    int currentRecord() const;
+    QStringList searchByTerms() const;
+    QStringList searchCompletions() const;
+    QString searchPlaceholder() const;
+    /// @}
 
     /// Shows what `layout` holds at the left end. The bar takes ownership. Null is ignored; to be
     /// called once.

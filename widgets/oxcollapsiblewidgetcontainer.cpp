@@ -54,9 +54,24 @@ QWidget* OxCollapsibleWidgetContainer::getContainedWidget() const
     return m_containedWidget;
 }
 
+QString OxCollapsibleWidgetContainer::titleString() const
+{
+    return m_titleLabel->text();
+}
+
 void OxCollapsibleWidgetContainer::setTitleString(const QString& title)
 {
     m_titleLabel->setText(title);
+}
+
+bool OxCollapsibleWidgetContainer::isExpanded() const
+{
+    return m_collapseButton->isChecked();
+}
+
+void OxCollapsibleWidgetContainer::setExpanded(bool expanded)
+{
+    m_collapseButton->setChecked(expanded);
 }
 
 void OxCollapsibleWidgetContainer::setContainedWidget(QWidget* widget)

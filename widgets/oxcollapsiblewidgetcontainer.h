@@ -31,6 +31,8 @@ class QGridLayout;
 class UTILITYWIDGETS_EXPORT OxCollapsibleWidgetContainer : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString titleString READ titleString WRITE setTitleString)
+    Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded)
 
 public:
     /// A section without title and content.
@@ -43,12 +45,22 @@ public:
     /// Null when there is none, or when it has been deleted.
     QWidget* getContainedWidget() const;
 
+    QString titleString() const;
     void setTitleString(const QString& title);
+
+    /*!
+     * Whether the button is checked; it is not at first. As when the person taps the button,
+     * changing it shows or hides the content and emits collapseButtonPressed().
+     *
+     * A form that sets it before it adds the content opens with the section unfolded.
+     */
+    bool isExpanded() const;
+    void setExpanded(bool expanded);
 
     /// Replaces the content by `widget`, which is hidden if the button is unchecked and may be
     /// null. The old content is not deleted: it stays a child of the section, as visible as it was,
     /// until the caller takes it away.
-    void setContainedWidget(QWidget* widget);
+    Q_INVOKABLE void setContainedWidget(QWidget* widget);
 
 public Q_SLOTS:
     /// Shows the content if the button is checked and hides it if not.

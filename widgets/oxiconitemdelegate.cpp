@@ -7,6 +7,11 @@ OxIconItemDelegate::OxIconItemDelegate(QObject* parent)
     : QItemDelegate(parent)
 { }
 
+QSize OxIconItemDelegate::fixedIconSize() const
+{
+    return m_fixedIconSize;
+}
+
 void OxIconItemDelegate::setFixedIconSize(QSize size)
 {
     if (m_fixedIconSize == size) {

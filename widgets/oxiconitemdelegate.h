@@ -26,11 +26,13 @@
 class UTILITYWIDGETS_EXPORT OxIconItemDelegate : public QItemDelegate
 {
     Q_OBJECT
+    Q_PROPERTY(QSize fixedIconSize READ fixedIconSize WRITE setFixedIconSize)
 
 public:
     /// Items are IconButtonSize large.
     explicit OxIconItemDelegate(QObject* parent = nullptr);
 
+    QSize fixedIconSize() const;
     /// Makes every item `size` large, in pixels. Views that use the delegate lay their items out
     /// anew.
     void setFixedIconSize(QSize size);

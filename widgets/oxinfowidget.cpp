@@ -43,6 +43,7 @@ QFrame* createSeparator(QWidget* parent)
 
 OxInfoWidget::OxInfoWidget(const QString& version, QWidget* parent)
     : QDialog(parent)
+    , m_versionNumber(version)
 {
     setObjectName(QStringLiteral("OxInfoWidget"));
     Look::prepareHouseDialog(this);
@@ -65,8 +66,14 @@ OxInfoWidget::OxInfoWidget(const QString& version, QWidget* parent)
     connect(titleBar, &ContainerTitleBar::closeButtonClicked, this, &QWidget::hide);
 }
 
+QString OxInfoWidget::versionNumber() const
+{
+    return m_versionNumber;
+}
+
 void OxInfoWidget::setVersionNumber(const QString& version)
 {
+    m_versionNumber = version;
     m_versionLabel->setText(tr("Version: ") + version);
 }
 

@@ -30,11 +30,14 @@ class QLabel;
 class UTILITYWIDGETS_EXPORT OxInfoWidget : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(QString versionNumber READ versionNumber WRITE setVersionNumber)
 
 public:
     /// `version` is shown as it is, as plain text.
     explicit OxInfoWidget(const QString& version, QWidget* parent = nullptr);
 
+    /// The version alone, without the word in front of it.
+    QString versionNumber() const;
     /// Replaces the version.
     void setVersionNumber(const QString& version);
 
@@ -46,4 +49,5 @@ private:
     QGridLayout* createContent(const QString& version);
 
     QLabel* m_versionLabel = nullptr;
+    QString m_versionNumber;
 };

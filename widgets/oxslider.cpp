@@ -59,6 +59,11 @@ int OxSlider::sliderHandleValue() const
     return m_handleValue;
 }
 
+OxSlider::ShowText OxSlider::showText() const
+{
+    return m_showText;
+}
+
 void OxSlider::setShowText(OxSlider::ShowText showText)
 {
     m_showText = showText;

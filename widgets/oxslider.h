@@ -39,6 +39,7 @@ class QPainter;
 class UTILITYWIDGETS_EXPORT OxSlider : public QSlider
 {
     Q_OBJECT
+    Q_PROPERTY(ShowText showText READ showText WRITE setShowText)
 
 public:
     /// Which ticks show their value.
@@ -57,6 +58,7 @@ public:
     /// stood on; 0 until one has been drawn. Painting sets it, so read it once the slider shows.
     int sliderHandleValue() const;
 
+    ShowText showText() const;
     /// Takes effect at the next repaint, which it does not cause. With QSlider::TicksAbove the
     /// values lie outside the slider and are not seen.
     void setShowText(OxSlider::ShowText showText);

@@ -61,9 +61,20 @@ OxTitleBar::OxTitleBar(QWidget* parent, const QString& iconPath, const QString& 
     connect(m_closeButton, &QPushButton::clicked, this, &OxTitleBar::closeButtonClicked);
 }
 
+QString OxTitleBar::iconPath() const
+{
+    return m_iconPath;
+}
+
 void OxTitleBar::setIconPath(const QString& iconPath)
 {
+    m_iconPath = iconPath;
     m_iconLabel->setPixmap(Look::picture(iconPath, devicePixelRatioF()));
+}
+
+QString OxTitleBar::title() const
+{
+    return m_titleLabel->text();
 }
 
 void OxTitleBar::setTitle(const QString& title)

@@ -24,6 +24,8 @@ class QPushButton;
 class UTILITYWIDGETS_EXPORT OxTitleBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString iconPath READ iconPath WRITE setIconPath)
+    Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
     /// `iconPath` is a file or resource that QPixmap reads, shown in 29 x 28 pixels. An empty path
@@ -32,8 +34,11 @@ public:
     explicit OxTitleBar(QWidget* parent = nullptr, const QString& iconPath = QString(),
                         const QString& title = QString());
 
+    /// The path as it was given, also when it cannot be read.
+    QString iconPath() const;
     /// Replaces the icon; a path that cannot be read leaves its place empty.
     void setIconPath(const QString& iconPath);
+    QString title() const;
     /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
     /// escape names that come from outside with QString::toHtmlEscaped().
     void setTitle(const QString& title);
@@ -52,4 +57,5 @@ private:
     QLabel* m_iconLabel = nullptr;
     QLabel* m_titleLabel = nullptr;
     QPushButton* m_closeButton = nullptr;
+    QString m_iconPath;
 };

@@ -22,6 +22,11 @@ SuffixDoubleValidator::SuffixDoubleValidator(double bottom, double top, int deci
     setNotation(StandardNotation);
 }
 
+QString SuffixDoubleValidator::suffix() const
+{
+    return m_suffix;
+}
+
 void SuffixDoubleValidator::setSuffix(const QString& suffix)
 {
     m_suffix = suffix;

@@ -30,6 +30,7 @@ class QWidget;
 class UTILITYWIDGETS_EXPORT SuffixDoubleValidator : public QDoubleValidator
 {
     Q_OBJECT
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
 
 public:
     /// Accepts every finite number, with any number of decimals.
@@ -40,6 +41,7 @@ public:
     /// The text to keep behind the number, exactly as given: begin it with a blank if one is to
     /// stand between number and unit. Text that is already in a field follows at its next edit.
     void setSuffix(const QString& suffix);
+    QString suffix() const;
 
     /// Judges `input` without the suffix and puts the suffix behind it again, whatever the verdict;
     /// only a text with nothing but the suffix becomes empty, which is acceptable. `pos` is not

@@ -19,6 +19,11 @@ SuffixIntValidator::SuffixIntValidator(int bottom, int top, QWidget* parent)
     setObjectName(QStringLiteral("SuffixIntValidator"));
 }
 
+QString SuffixIntValidator::suffix() const
+{
+    return m_suffix;
+}
+
 void SuffixIntValidator::setSuffix(const QString& suffix)
 {
     m_suffix = suffix;

@@ -62,6 +62,11 @@ void ToolBox::clearLayout(QLayout* layout)
     }
 }
 
+int ToolBox::layoutSpacing() const
+{
+    return m_columnLayout != nullptr ? m_columnLayout->spacing() : 0;
+}
+
 void ToolBox::setLayoutSpacing(int spacing)
 {
     if (m_columnLayout != nullptr) {

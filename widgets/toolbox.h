@@ -37,11 +37,16 @@ class DragGesture;
  * A drag scrolls from its first pixel on and does not suppress the click of a button that it ends
  * on; panels that need that use DragScrollButton.
  *
- * Until initialize() has been called there is no column, and adding to it does nothing.
+ * Until initialize() has been called there is no column, and adding to it does nothing. It then is
+ * a QScrollArea that is dragged: in a form it gets its widget, and that a layout, as a QScrollArea
+ * does.
  */
 class UTILITYWIDGETS_EXPORT ToolBox : public QScrollArea
 {
     Q_OBJECT
+    // Not for a form, which has no column but a widget with a layout of its own.
+    Q_PROPERTY(
+        int layoutSpacing READ layoutSpacing WRITE setLayoutSpacing DESIGNABLE false STORED false)
 
 public:
     explicit ToolBox(QWidget* parent = nullptr);
@@ -60,7 +65,8 @@ public:
     /// Deletes everything in `layout`, nested layouts and widgets included, but not `layout`
     /// itself. Null is ignored.
     void clearLayout(QLayout* layout);
-    /// Pixels between two panels; 5 unless set.
+    /// Pixels between two panels; 5 unless set, and 0 while there is no column.
+    int layoutSpacing() const;
     void setLayoutSpacing(int spacing);
 
 protected:

@@ -76,6 +76,18 @@ void ToolBoxContainer::initialize(QSize size, QPoint position)
             &ToolBoxContainer::updateButtons);
 }
 
+int ToolBoxContainer::columnWidth() const
+{
+    return m_toolBox != nullptr ? m_toolBox->minimumWidth() : 0; // fixed, whatever the layout did
+}
+
+void ToolBoxContainer::setColumnWidth(int width)
+{
+    if (width > 0) {
+        initialize(QSize(width, height()), QPoint());
+    }
+}
+
 void ToolBoxContainer::addPropertiesWidget(QWidget* panel)
 {
     if (m_toolBox != nullptr) {
@@ -104,6 +116,11 @@ void ToolBoxContainer::setLayoutSpacing(int spacing)
     }
 }
 
+int ToolBoxContainer::layoutSpacing() const
+{
+    return m_toolBox != nullptr ? m_toolBox->layoutSpacing() : 0;
+}
+
 void ToolBoxContainer::setAboveButtonVisible(bool visible)
 {
     if (m_aboveButton != nullptr) {
@@ -116,6 +133,16 @@ void ToolBoxContainer::setBelowButtonVisible(bool visible)
     if (m_belowButton != nullptr) {
         m_belowButton->setVisible(visible);
     }
+}
+
+bool ToolBoxContainer::isAboveButtonVisible() const
+{
+    return m_aboveButton != nullptr && !m_aboveButton->isHidden();
+}
+
+bool ToolBoxContainer::isBelowButtonVisible() const
+{
+    return m_belowButton != nullptr && !m_belowButton->isHidden();
 }
 
 ToolBox* ToolBoxContainer::getToolBox() const
@@ -156,6 +183,14 @@ void ToolBoxContainer::setToolBoxVerticalScrollValue(int value)
 int ToolBoxContainer::getToolBoxVerticalScrollValue() const
 {
     return m_toolBox != nullptr ? m_toolBox->verticalScrollBar()->value() : 0;
+}
+
+void ToolBoxContainer::addPanel(QWidget* panel)
+{
+    if (panel != nullptr) {
+        setColumnWidth(panel->sizeHint().width());
+        addPropertiesWidget(panel);
+    }
 }
 
 void ToolBoxContainer::onAboveButtonClicked()

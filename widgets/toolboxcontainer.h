@@ -31,6 +31,16 @@ class ToolBox;
 class UTILITYWIDGETS_EXPORT ToolBoxContainer : public QWidget
 {
     Q_OBJECT
+    // The first one makes the tool box that the others are about: a form sets them in this order.
+    Q_PROPERTY(int columnWidth READ columnWidth WRITE setColumnWidth)
+    Q_PROPERTY(int layoutSpacing READ layoutSpacing WRITE setLayoutSpacing)
+    // Not for a form: what is scrolled to, and what can be, changes from moment to moment.
+    Q_PROPERTY(bool aboveButtonVisible READ isAboveButtonVisible WRITE setAboveButtonVisible
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(bool belowButtonVisible READ isBelowButtonVisible WRITE setBelowButtonVisible
+                   DESIGNABLE false STORED false)
+    Q_PROPERTY(int toolBoxVerticalScrollValue READ getToolBoxVerticalScrollValue WRITE
+                   setToolBoxVerticalScrollValue DESIGNABLE false STORED false)
 
 public:
     explicit ToolBoxContainer(QWidget* parent = nullptr);
@@ -39,17 +49,30 @@ public:
     /// ToolBox::initialize(). Once only; later calls do nothing.
     void initialize(QSize size, QPoint position);
 
+    /*!
+     * The width of the tool box in pixels, 0 before there is one.
+     *
+     * Setting it is how a form says initialize(): a positive width makes the tool box, unless there
+     * is one, and any other does nothing.
+     */
+    int columnWidth() const;
+    void setColumnWidth(int width);
+
     /// \name What ToolBox offers
     /// @{
     void addPropertiesWidget(QWidget* panel);
     void insertSpacerItem();
     void clearLayout(QLayout* layout);
     void setLayoutSpacing(int spacing);
+    int layoutSpacing() const;
     /// @}
 
     /// Shows or hides one button until scrolling, resizing or growing content decides anew.
     void setAboveButtonVisible(bool visible);
     void setBelowButtonVisible(bool visible);
+    /// Whether there is such a button and it is shown, in a container that may itself be hidden.
+    bool isAboveButtonVisible() const;
+    bool isBelowButtonVisible() const;
 
     ToolBox* getToolBox() const;
 
@@ -71,6 +94,9 @@ public:
     int getToolBoxVerticalScrollValue() const;
 
 public Q_SLOTS:
+    /// addPropertiesWidget() for forms, which add their panels by this name: where there is no tool
+    /// box yet, it makes one that is as wide as `panel` asks for. Null is ignored.
+    void addPanel(QWidget* panel);
     /// Scrolls up by 35 pixels, and all the way when no more than 70 are left.
     void onAboveButtonClicked();
     /// Scrolls down by 35 pixels, and all the way when no more than 70 are left.

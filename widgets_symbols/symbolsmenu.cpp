@@ -57,14 +57,19 @@ protected:
 
 } // namespace
 
+// Deliberately without a folder, unlike the browser's.
 SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, QWidget* parent)
+    : SymbolsMenu(categoryNames, QStringLiteral("symbols.db"), parent)
+{ }
+
+SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, const QString& libraryPath,
+                         QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("SymbolsMenu"));
     m_itemModel = new QStandardItemModel(this);
     m_model = new SymbolDatabaseModel(this);
-    // Deliberately without a folder, unlike the browser's.
-    m_model->setDatabasePath(QStringLiteral("symbols.db"));
+    m_model->setDatabasePath(libraryPath);
     createSearchField();
     createCategoryBox(categoryNames);
     createSymbolList();
@@ -109,7 +114,15 @@ void SymbolsMenu::searchUpdate()
 void SymbolsMenu::categoryUpdate(const QString& category)
 {
     m_itemModel->clear();
-    appendSymbols(*m_itemModel, m_model->getItemsBySearch(category, m_searchField->text(), true));
+    if (hasLibrary()) {
+        appendSymbols(*m_itemModel,
+                      m_model->getItemsBySearch(category, m_searchField->text(), true));
+    }
+}
+
+bool SymbolsMenu::hasLibrary() const
+{
+    return !m_model->databasePath().isEmpty();
 }
 
 void SymbolsMenu::chooseCategory(int index)
@@ -124,7 +137,7 @@ void SymbolsMenu::createSearchField()
     m_searchField = new SymbolsLineEdit(this);
     m_searchField->setWindowIcon(Look::icon(QStringLiteral(LOOK_IMAGE_SEARCH_WINDOW)));
 
-    auto* completer = new QCompleter(m_model->tags(), m_searchField);
+    auto* completer = new QCompleter(hasLibrary() ? m_model->tags() : QStringList(), m_searchField);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     auto* suggestions = new SuggestionList;
     completer->setPopup(suggestions);
@@ -146,7 +159,9 @@ void SymbolsMenu::createCategoryBox(const QList<QString>& categoryNames)
     // A long name must not make the menu a wide one.
     m_categoryBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_categoryBox->addItems(categoryNames);
-    m_categoryBox->addItems(m_model->categories());
+    if (hasLibrary()) {
+        m_categoryBox->addItems(m_model->categories());
+    }
     m_categoryBox->addItem(tr("All Categories", "Categories header for showing all symbols."));
 }
 

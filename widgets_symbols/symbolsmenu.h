@@ -43,6 +43,9 @@ public:
     explicit SymbolsMenu(const QList<QString>& categoryNames, QWidget* parent = nullptr);
     /// Offers the library's categories alone.
     explicit SymbolsMenu(QWidget* parent = nullptr);
+    /// Reads another library. With an empty `libraryPath` there is none, and nothing is ever read:
+    /// the menu's picture, for a form editor.
+    SymbolsMenu(const QList<QString>& categoryNames, const QString& libraryPath, QWidget* parent);
 
     /// Appends a symbol to those shown, until the next search. It must have an icon and, under
     /// Qt::UserRole + 1, its id in the library. The menu owns it from then on.
@@ -62,6 +65,7 @@ Q_SIGNALS:
     void symbolSignal(QByteArray symbolData);
 
 private:
+    bool hasLibrary() const;
     void chooseCategory(int index);
     void createSearchField();
     void createCategoryBox(const QList<QString>& categoryNames);
