@@ -3,6 +3,7 @@
 
 #include "gallerywindow.h"
 #include "oxsingleinstanceapplication.h"
+#include "oxtranslation.h"
 #include "page.h"
 #include "tour.h"
 
@@ -26,8 +27,24 @@ void printList()
     }
 }
 
+/// Texts, and the way numbers are written, in the language with that code; false, with a line on
+/// standard error, if the library has no such translation. No code leaves everything in English.
+bool speak(const QString& language)
+{
+    if (language.isEmpty()) {
+        return true;
+    }
+    QLocale::setDefault(QLocale(language));
+    const bool translated = OxTranslation::install();
+    if (!translated) {
+        std::fprintf(stderr, "no translation for %s\n", qUtf8Printable(language));
+    }
+    return translated;
+}
+
 /// The window, as long as a person wants to see it.
-int showGallery(int argc, char* argv[], QCommandLineParser& parser, const QCommandLineOption& page)
+int showGallery(int argc, char* argv[], QCommandLineParser& parser, const QCommandLineOption& page,
+                const QCommandLineOption& language)
 {
     //! [OxSingleInstanceApplication]
     OxSingleInstanceApplication application(argc, argv, QString::fromLatin1(Gallery::ChannelName));
@@ -35,6 +52,9 @@ int showGallery(int argc, char* argv[], QCommandLineParser& parser, const QComma
         return 0; // the first instance has come forward
     }
     parser.process(application);
+    if (!speak(parser.value(language))) {
+        return 1;
+    }
     Gallery::GalleryWindow window;
     window.showPage(parser.value(page));
     application.setMainWidget(&window);
@@ -61,7 +81,12 @@ int main(int argc, char* argv[])
         QStringLiteral("folder"));
     const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Start on page <name>."),
                                   QStringLiteral("name"));
-    parser.addOptions({ list, tour, page });
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("Show the library's own texts in the language with that <code>: ar, de, en, "
+                       "es, fr or ja."),
+        QStringLiteral("code"));
+    parser.addOptions({ list, tour, page, language });
     // Before there is an application object: which one it is depends on what is asked for. Options
     // of Qt's own, which only the application object takes away, are of no importance here.
     QStringList arguments;
@@ -70,7 +95,7 @@ int main(int argc, char* argv[])
     }
     parser.parse(arguments);
     if (!parser.isSet(help) && !parser.isSet(list) && !parser.isSet(tour)) {
-        return showGallery(argc, argv, parser, page);
+        return showGallery(argc, argv, parser, page, language);
     }
 
     // None of these may call a gallery that is running forward.
@@ -79,6 +104,9 @@ int main(int argc, char* argv[])
     if (parser.isSet(list)) {
         printList();
         return 0;
+    }
+    if (!speak(parser.value(language))) {
+        return 1;
     }
     return Gallery::takeTour(parser.value(tour)) ? 0 : 1;
 }

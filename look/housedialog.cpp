@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QIcon>
+#include <QLabel>
 
 void Look::prepareHouseDialog(QDialog* dialog)
 {
@@ -17,6 +18,13 @@ void Look::prepareHouseDialog(QDialog* dialog)
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     dialog->setWindowIcon(icon(QStringLiteral(LOOK_IMAGE_APPLICATION)));
     dialog->setWindowTitle(QStringLiteral("Sigilant PRO"));
+}
+
+void Look::alignToLineStart(QLabel* label)
+{
+    label->setAlignment(Qt::AlignVCenter
+                        | (label->isRightToLeft() ? Qt::AlignRight | Qt::AlignAbsolute
+                                                  : Qt::Alignment(Qt::AlignLeft)));
 }
 
 void Look::prepareMessageButton(QAbstractButton* button)

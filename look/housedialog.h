@@ -5,6 +5,7 @@
 
 class QAbstractButton;
 class QDialog;
+class QLabel;
 
 namespace Look {
 
@@ -14,6 +15,11 @@ namespace Look {
  * nor with the last window: dialogs live on the stack of a static helper or are shown again.
  */
 void prepareHouseDialog(QDialog* dialog);
+
+/// Puts the text of `label`, one that is aligned to the left, to the side where lines begin on this
+/// screen. A label would do so by the letters of its text, and names in Latin letters would stand on
+/// the wrong side of a dialog in Arabic. To be called again when the layout direction changes.
+void alignToLineStart(QLabel* label);
 
 /// Gives `button` the size and the sheet of the buttons below a message or a question.
 void prepareMessageButton(QAbstractButton* button);

@@ -8,12 +8,43 @@
 #include "look/palette.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QIcon>
 #include <QPushButton>
 
+namespace {
+
+class CloseButton : public QPushButton
+{
+public:
+    explicit CloseButton(QWidget* parent)
+        : QPushButton(parent)
+    {
+        retranslate();
+    }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QPushButton::changeEvent(event);
+        if (event->type() == QEvent::LanguageChange) {
+            retranslate();
+        }
+    }
+
+private:
+    void retranslate()
+    {
+        setAccessibleName(QCoreApplication::translate(
+            "TitleBar", "Close", "Accessible name of the close button of a title bar."));
+    }
+};
+
+} // namespace
+
 QPushButton* Look::createTitleBarCloseButton(QWidget* parent, const QSize& size)
 {
-    auto* button = new QPushButton(parent);
+    auto* button = new CloseButton(parent);
     button->setFlat(true);
     button->setIcon(icon(QStringLiteral(LOOK_IMAGE_CLOSE)));
     button->setIconSize(size);
@@ -29,7 +60,5 @@ QPushButton* Look::createTitleBarCloseButton(QWidget* parent, const QSize& size)
             .arg(size.height()));
     button->setAutoDefault(false);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setAccessibleName(QCoreApplication::translate(
-        "TitleBar", "Close", "Accessible name of the close button of a title bar."));
     return button;
 }

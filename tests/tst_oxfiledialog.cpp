@@ -404,6 +404,8 @@ void TestOxFileDialog::theTextsHaveTheirComments()
              QStringLiteral(
                  " Name / Label used to denote what the current 'File Name' or 'Folder Name' is "
                  "selected.\n"
+                 "%1 %2%3 / Title of the dialog: %1 is Open, Save or Select, %2 File or Folder, "
+                 "%3 Dialog.\n"
                  "Cancel / Button text to cancel file dialog.\n"
                  "Favorites / Header label for display favorite folder locations.\n"
                  "Files / Accessible name of the list of files and folders.\n"

@@ -65,7 +65,11 @@ bool DragGesture::end()
 
 void dragScrollBar(int previous, int current, QScrollBar* bar)
 {
-    const qint64 wanted = qint64(bar->sliderPosition()) + previous - current;
+    // Where a screen is read from right to left, horizontal bars count from the right.
+    const bool countsFromRight = bar->orientation() == Qt::Horizontal && bar->isRightToLeft();
+    const qint64 travelled =
+        countsFromRight ? qint64(current) - previous : qint64(previous) - current;
+    const qint64 wanted = bar->sliderPosition() + travelled;
     bar->setSliderPosition(
         int(std::clamp<qint64>(wanted, bar->minimum(), std::max(bar->minimum(), bar->maximum()))));
 }

@@ -55,7 +55,8 @@ private:
 };
 
 /// Moves `bar` as far as the finger moved from `previous` to `current`, against its direction, so
-/// that the content follows the finger. Stops at the ends of the bar's range.
+/// that the content follows the finger, also where the bar is laid out from right to left. Stops at
+/// the ends of the bar's range.
 void dragScrollBar(int previous, int current, QScrollBar* bar);
 
 /// The finger that `gesture` follows on `area` has moved: scrolls the content by as much in the

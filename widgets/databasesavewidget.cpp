@@ -10,6 +10,7 @@
 #include "look/images.h"
 #include "look/sheets.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QRadioButton>
@@ -44,12 +45,11 @@ QString pushButtonSheet()
     return Look::gradientButton() + QStringLiteral("QPushButton { min-width: 80px; }");
 }
 
-/// A text of an option. It takes the whole width beside the radio button, so that all of the row
+/// A label for a text of an option. It takes the whole width beside the radio button, so that all of the row
 /// can be tapped, and no translation makes the dialog wider than it is.
-ClickableLabel* createText(const QString& text, const QFont& font, QWidget* parent)
+ClickableLabel* createText(QWidget* parent)
 {
-    auto* label = new ClickableLabel(text, parent);
-    label->setFont(font);
+    auto* label = new ClickableLabel(QString(), parent);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     label->setIndent(TextMargin);
     return label;
@@ -64,20 +64,18 @@ QFont fontFor(const QString& text, const QFont& preferred, const QFont& smaller)
     return QFontMetrics(preferred).horizontalAdvance(text) <= Room ? preferred : smaller;
 }
 
-ClickableLabel* createOption(const QString& text, QWidget* parent)
+void setOption(QLabel* label, const QString& text)
 {
-    return createText(text,
-                      fontFor(text, ApplicationFont::getWidgetFontLarge(true),
-                              ApplicationFont::getWidgetFont(true)),
-                      parent);
+    label->setText(text);
+    label->setFont(fontFor(text, ApplicationFont::getWidgetFontLarge(true),
+                           ApplicationFont::getWidgetFont(true)));
 }
 
-ClickableLabel* createExplanation(const QString& text, QWidget* parent)
+void setExplanation(QLabel* label, const QString& text)
 {
-    return createText(text,
-                      fontFor(text, ApplicationFont::getWidgetFontSmall(false),
-                              ApplicationFont::getWidgetFontTiny(false)),
-                      parent);
+    label->setText(text);
+    label->setFont(fontFor(text, ApplicationFont::getWidgetFontSmall(false),
+                           ApplicationFont::getWidgetFontTiny(false)));
 }
 
 } // namespace
@@ -91,11 +89,11 @@ DatabaseSaveWidget::DatabaseSaveWidget(QWidget* parent, Qt::WindowFlags flags)
     setStyleSheet(Look::framedPanel(QStringLiteral("#DatabaseSaveWidget")) + radioButtonSheet()
                   + pushButtonSheet());
 
-    auto* titleBar = new ContainerTitleBar(
-        this, tr("SAVE TO DATABASE", "Header label to save record to the database."));
+    m_titleBar = new ContainerTitleBar(this);
     createOptions();
     createButtons();
-    createLayout(titleBar);
+    retranslate();
+    createLayout();
     setFixedWidth(DialogWidth);
     setMaximumHeight(MaximumHeight);
     m_saveRadio->setChecked(true);
@@ -107,7 +105,7 @@ DatabaseSaveWidget::DatabaseSaveWidget(QWidget* parent, Qt::WindowFlags flags)
             &DatabaseSaveWidget::checkSaveAsRadio);
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_cancelButton, &QPushButton::clicked, this, &QDialog::reject);
-    connect(titleBar, &ContainerTitleBar::closeButtonClicked, this, &QDialog::reject);
+    connect(m_titleBar, &ContainerTitleBar::closeButtonClicked, this, &QDialog::reject);
 }
 
 int DatabaseSaveWidget::execWidget()
@@ -138,28 +136,44 @@ void DatabaseSaveWidget::checkSaveAsRadio()
     m_saveAsRadio->setChecked(true);
 }
 
+void DatabaseSaveWidget::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void DatabaseSaveWidget::retranslate()
+{
+    m_titleBar->setTitle(tr("SAVE TO DATABASE", "Header label to save record to the database."));
+    setOption(m_saveLabel,
+              tr("Save Current Record", "Label to save current record into the database."));
+    setExplanation(m_saveInfoLabel, tr("Overwrites current record in database", "Save info label"));
+    setOption(m_saveAsLabel,
+              tr("Save As New Record", "Label to save as a new record into the database."));
+    setExplanation(m_saveAsInfoLabel, tr("Saves as new record in database", "Save As info label"));
+    m_saveRadio->setAccessibleName(m_saveLabel->text());
+    m_saveAsRadio->setAccessibleName(m_saveAsLabel->text());
+    m_okButton->setText(tr("OK", "Ok button for saving to a database."));
+    m_cancelButton->setText(tr("Cancel", "Cancel button for saving to a database."));
+}
+
 void DatabaseSaveWidget::createOptions()
 {
     m_saveRadio = new QRadioButton(this);
-    m_saveLabel = createOption(
-        tr("Save Current Record", "Label to save current record into the database."), this);
-    m_saveInfoLabel =
-        createExplanation(tr("Overwrites current record in database", "Save info label"), this);
+    m_saveLabel = createText(this);
+    m_saveInfoLabel = createText(this);
     m_saveAsRadio = new QRadioButton(this);
-    m_saveAsLabel = createOption(
-        tr("Save As New Record", "Label to save as a new record into the database."), this);
-    m_saveAsInfoLabel =
-        createExplanation(tr("Saves as new record in database", "Save As info label"), this);
-
-    m_saveRadio->setAccessibleName(m_saveLabel->text());
-    m_saveAsRadio->setAccessibleName(m_saveAsLabel->text());
+    m_saveAsLabel = createText(this);
+    m_saveAsInfoLabel = createText(this);
 }
 
 void DatabaseSaveWidget::createButtons()
 {
-    m_okButton = new QPushButton(tr("OK", "Ok button for saving to a database."), this);
+    m_okButton = new QPushButton(this);
     m_okButton->setStyleSheet(pushButtonSheet());
-    m_cancelButton = new QPushButton(tr("Cancel", "Cancel button for saving to a database."), this);
+    m_cancelButton = new QPushButton(this);
     m_cancelButton->setStyleSheet(pushButtonSheet());
 }
 
@@ -178,7 +192,7 @@ QGridLayout* DatabaseSaveWidget::layOutOptions()
     return grid;
 }
 
-void DatabaseSaveWidget::createLayout(QWidget* titleBar)
+void DatabaseSaveWidget::createLayout()
 {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_okButton);
@@ -195,7 +209,7 @@ void DatabaseSaveWidget::createLayout(QWidget* titleBar)
     auto* outer = new QVBoxLayout;
     outer->setSpacing(30);
     outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(titleBar);
+    outer->addWidget(m_titleBar);
     outer->addLayout(inner);
     setLayout(outer);
 }

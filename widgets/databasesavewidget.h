@@ -8,6 +8,7 @@
 #include <QDialog>
 
 class ClickableLabel;
+class ContainerTitleBar;
 class QGridLayout;
 class QPushButton;
 class QRadioButton;
@@ -54,12 +55,17 @@ public Q_SLOTS:
     /// Chooses to save a new record.
     void checkSaveAsRadio();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     void createOptions();
     void createButtons();
     QGridLayout* layOutOptions();
-    void createLayout(QWidget* titleBar);
+    void createLayout();
 
+    ContainerTitleBar* m_titleBar = nullptr;
     QRadioButton* m_saveRadio = nullptr;
     QRadioButton* m_saveAsRadio = nullptr;
     ClickableLabel* m_saveLabel = nullptr;

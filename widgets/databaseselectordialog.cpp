@@ -10,6 +10,7 @@
 #include "ui_databaseselectordialog.h"
 
 #include <QDir>
+#include <QEvent>
 
 namespace {
 
@@ -51,9 +52,9 @@ DatabaseSelectorDialog::DatabaseSelectorDialog(const QString& subfolder, QWidget
 
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     Look::prepareHouseDialog(this);
-    m_ui->headerBar->setTitle(tr("DATABASE SELECTOR"));
-    m_ui->dataLabel->setText(subfolder + QStringLiteral(" Databases"));
-    m_ui->dataListWidget->setAccessibleName(m_ui->dataLabel->text());
+    m_subfolder = subfolder;
+    Look::alignToLineStart(m_ui->dataLabel);
+    retranslate();
 
     connect(m_ui->headerBar, &ContainerTitleBar::closeButtonClicked, this, &QDialog::reject);
     populateDatabasesList(subfolder);
@@ -100,6 +101,26 @@ void DatabaseSelectorDialog::on_okayButton_clicked()
         m_databaseName = m_folderPath + QDir::separator() + name + fileEnding();
     }
     accept();
+}
+
+void DatabaseSelectorDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        Look::alignToLineStart(m_ui->dataLabel);
+    }
+}
+
+void DatabaseSelectorDialog::retranslate()
+{
+    m_ui->retranslateUi(this);
+    m_ui->headerBar->setTitle(tr("DATABASE SELECTOR"));
+    // Behind the form's function, which would leave the form's own text. Not translated: it is part of
+    // a name.
+    m_ui->dataLabel->setText(m_subfolder + QStringLiteral(" Databases"));
+    m_ui->dataListWidget->setAccessibleName(m_ui->dataLabel->text());
 }
 
 #include "moc_databaseselectordialog.cpp"

@@ -57,8 +57,13 @@ Q_SIGNALS:
     /// before getDatabaseName() returns it and before the dialog is accepted.
     void databaseSelectedSignal(const QString& name);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     std::unique_ptr<Ui_DatabaseSelectorDialog> m_ui;
+    QString m_subfolder;
     QString m_folderPath;
     QString m_databaseName;
 };

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QStyle>
 
 namespace {
 
@@ -33,8 +34,9 @@ void drawFittingText(QPixmap& canvas, const QRect& rect, const QString& text,
         painter.setPen(button.palette().color(QPalette::ButtonText));
         painter.setFont(font);
         QRect bounding;
-        painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter, text, &bounding);
-        // Compared with the whole canvas, although the text begins right of the icon: a text that
+        const auto side = button.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+        painter.drawText(rect, side | Qt::AlignAbsolute | Qt::AlignVCenter, text, &bounding);
+        // Compared with the whole canvas, although the text begins beside the icon: a text that
         // is cut a little is preferred to a much smaller one.
         if (width > bounding.right() - bounding.left() || font.pointSize() <= 1) {
             return;
@@ -80,11 +82,14 @@ void DragScrollButton::fitButtonText(QPushButton* button, int spacing, int leftM
 
     QPixmap canvas(size * ratio);
     canvas.setDevicePixelRatio(ratio);
-    drawFittingText(canvas,
-                    QRect(iconSize.width() + spacing + leftMargin, 0,
-                          size.width() - iconSize.width(), size.height()),
-                    text, *button);
-    QPainter(&canvas).drawPixmap(leftMargin, (size.height() - iconSize.height()) / 2, icon);
+    const QRect textRect(iconSize.width() + spacing + leftMargin, 0,
+                         size.width() - iconSize.width(), size.height());
+    const QRect iconRect(QPoint(leftMargin, (size.height() - iconSize.height()) / 2), iconSize);
+    const auto visualRect = [&](const QRect& logical) {
+        return QStyle::visualRect(button->layoutDirection(), QRect(QPoint(), size), logical);
+    };
+    drawFittingText(canvas, visualRect(textRect), text, *button);
+    QPainter(&canvas).drawPixmap(visualRect(iconRect).topLeft(), icon);
     button->setIconSize(size);
     button->setIcon(canvas);
 }

@@ -6,6 +6,7 @@
 #include "touch/draggesture.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QMouseEvent>
 
 DragScrollTableView::DragScrollTableView(QWidget* parent)
@@ -16,11 +17,7 @@ DragScrollTableView::DragScrollTableView(QWidget* parent)
     setObjectName(QStringLiteral("DragScrollListView"));
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollMode(ScrollPerPixel);
-    // Qt gives the button between the two headers neither a text nor a name.
-    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        corner->setAccessibleName(
-            tr("Select all", "Accessible name of the button in the corner of a table."));
-    }
+    retranslate();
 }
 
 DragScrollTableView::~DragScrollTableView() = default;
@@ -38,6 +35,14 @@ void DragScrollTableView::setHorizontalMovementEnabled(bool enabled)
 void DragScrollTableView::setSliderPosition(int previous, int current, QScrollBar* bar)
 {
     Touch::dragScrollBar(previous, current, bar);
+}
+
+void DragScrollTableView::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
 }
 
 bool DragScrollTableView::event(QEvent* event)
@@ -107,6 +112,15 @@ QItemSelectionModel::SelectionFlags DragScrollTableView::selectionCommand(const 
     // What the press of a drag has selected remains.
     return m_swallowingRelease ? QItemSelectionModel::NoUpdate
                                : QTableView::selectionCommand(index, event);
+}
+
+void DragScrollTableView::retranslate()
+{
+    // Qt gives the button between the two headers neither a text nor a name.
+    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        corner->setAccessibleName(
+            tr("Select all", "Accessible name of the button in the corner of a table."));
+    }
 }
 
 #include "moc_dragscrolltableview.cpp"

@@ -60,6 +60,7 @@ Q_SIGNALS:
     void focusLost();
 
 protected:
+    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -72,6 +73,7 @@ protected:
                                                          const QEvent* event) const override;
 
 private:
+    void retranslate();
     std::unique_ptr<Touch::DragGesture> m_gesture;
     bool m_horizontalMovementEnabled = false;
     bool m_swallowingRelease = false;

@@ -65,6 +65,8 @@ void ExpandingTabBar::paintEvent(QPaintEvent* /*event*/)
 //  |<------------------ tab ------------------>|
 //  |      [icon]       |5|<--- text width ---->|    where the icon is centred
 //  |<-icon->|5|            text                |    where the text is centred
+//
+// The other way round where a screen is read from right to left.
 void ExpandingTabBar::paintTab(QPainter* painter, int index)
 {
     QStyleOptionTab option;
@@ -81,10 +83,11 @@ void ExpandingTabBar::paintTab(QPainter* painter, int index)
     if (!icon.isNull()) {
         const int textWidth = fontMetrics().horizontalAdvance(text);
         const QRect iconRect = tab.adjusted(0, 0, -(textWidth + IconGap), 0);
-        icon.paint(painter, iconRect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
+        icon.paint(painter, QStyle::visualRect(layoutDirection(), tab, iconRect), Qt::AlignCenter,
+                   QIcon::Normal, QIcon::Off);
         textRect.setLeft(tab.left() + iconSize().width() + IconGap);
     }
-    painter->drawText(textRect, Qt::AlignCenter, text);
+    painter->drawText(QStyle::visualRect(layoutDirection(), tab, textRect), Qt::AlignCenter, text);
 }
 
 #include "moc_expandingtabbar.cpp"

@@ -83,6 +83,8 @@ void LineLabel::setLineColor(const QColor& color)
 //   LineRight  |[text]    |--------------------|     rule from gap
 //   LineBoth   |----------|  [text]  |---------|     rules to side and from w - side,
 //                                                    side = (w + 1 - gap) / 2
+//
+// LineLeft and LineRight change places for a text that is read from right to left.
 void LineLabel::paintEvent(QPaintEvent* event)
 {
     paintRule();
@@ -96,12 +98,16 @@ void LineLabel::paintRule()
     const int gap = fontMetrics().horizontalAdvance(text()) + TextGap;
     const int w = width() - 1;
     const int y = (height() - 1) / 2;
+    // A label puts a text that is read from right to left at the other end.
+    const bool isMirrored = text().isRightToLeft();
     switch (m_lineType) {
     case LineLeft:
-        drawRule(painter, 0, w - gap, y);
-        break;
     case LineRight:
-        drawRule(painter, gap, w, y);
+        if ((m_lineType == LineLeft) != isMirrored) {
+            drawRule(painter, 0, w - gap, y);
+        } else {
+            drawRule(painter, gap, w, y);
+        }
         break;
     case LineBoth: {
         const int side = (w + 1 - gap) / 2;

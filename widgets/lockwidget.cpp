@@ -7,6 +7,7 @@
 #include "linelabel.h"
 #include "look/images.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 
@@ -38,6 +39,7 @@ LockWidget::LockWidget(bool horizontal, QWidget* parent)
     } else {
         layOutAsGrid();
     }
+    retranslate();
 
     connect(&m_lockBox, &QCheckBox::clicked, this, &LockWidget::lockSignal);
     connect(&m_readOnlyBox, &QCheckBox::clicked, this, &LockWidget::readOnlySignal);
@@ -81,28 +83,41 @@ void LockWidget::setUserBackgroundState(bool checked)
     m_readOnlyBox.setEnabled(!checked);
 }
 
-void LockWidget::setUpBoxes()
+void LockWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void LockWidget::retranslate()
 {
     m_lockBox.setText(tr("Lock", "Lock button text."));
     m_lockBox.setToolTip(
         tr("All object properties except for data editing are prevented from being changed.",
            "Lock button tool tip text."));
-    m_lockBox.setStyleSheet(indicatorSheet(QStringLiteral(LOOK_IMAGE_LOCK_CHECKED),
-                                           QStringLiteral(LOOK_IMAGE_LOCK),
-                                           QStringLiteral(LOOK_IMAGE_LOCK_DISABLED)));
-
     m_readOnlyBox.setText(tr("Read\nOnly", "Read-only button text."));
     m_readOnlyBox.setToolTip(tr("All object properties are prevented from being changed.",
                                 "Read-only button tool tip text."));
-    m_readOnlyBox.setStyleSheet(indicatorSheet(QStringLiteral(LOOK_IMAGE_READ_ONLY_CHECKED),
-                                               QStringLiteral(LOOK_IMAGE_READ_ONLY),
-                                               QStringLiteral(LOOK_IMAGE_READ_ONLY_DISABLED)));
-
     m_userBackgroundBox.setText(tr("Set As User\nBackground", "User template button text."));
     m_userBackgroundBox.setToolTip(
         tr("The object is placed in a separate layer, that can be hidden (option in defaults menu) "
            "\nand optionally printed (option in print widget).",
            "User template button tool tip text."));
+    if (m_header != nullptr) {
+        m_header->setText(tr("Lock Options", "Section header for object lock options."));
+    }
+}
+
+void LockWidget::setUpBoxes()
+{
+    m_lockBox.setStyleSheet(indicatorSheet(QStringLiteral(LOOK_IMAGE_LOCK_CHECKED),
+                                           QStringLiteral(LOOK_IMAGE_LOCK),
+                                           QStringLiteral(LOOK_IMAGE_LOCK_DISABLED)));
+    m_readOnlyBox.setStyleSheet(indicatorSheet(QStringLiteral(LOOK_IMAGE_READ_ONLY_CHECKED),
+                                               QStringLiteral(LOOK_IMAGE_READ_ONLY),
+                                               QStringLiteral(LOOK_IMAGE_READ_ONLY_DISABLED)));
     m_userBackgroundBox.setStyleSheet(
         indicatorSheet(QStringLiteral(LOOK_IMAGE_USER_BACKGROUND_CHECKED),
                        QStringLiteral(LOOK_IMAGE_USER_BACKGROUND),
@@ -121,12 +136,11 @@ void LockWidget::layOutAsRow()
 
 void LockWidget::layOutAsGrid()
 {
-    auto* header =
-        new LineLabel(tr("Lock Options", "Section header for object lock options."), nullptr);
-    header->setFont(ApplicationFont::getWidgetFont(true));
+    m_header = new LineLabel;
+    m_header->setFont(ApplicationFont::getWidgetFont(true));
 
     auto* grid = new QGridLayout;
-    grid->addWidget(header, 0, 0, 1, 2);
+    grid->addWidget(m_header, 0, 0, 1, 2);
     grid->addWidget(&m_lockBox, 1, 0);
     grid->addWidget(&m_readOnlyBox, 1, 1);
     grid->addItem(createSpacer(), 2, 0);

@@ -8,6 +8,8 @@
 #include <QCheckBox>
 #include <QWidget>
 
+class LineLabel;
+
 /*!
  * \brief Three image check boxes with which a person protects an object of a document.
  *
@@ -68,7 +70,11 @@ Q_SIGNALS:
     /// A person changed the user background box to `checked`.
     void userBackgroundSignal(bool checked);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     void setUpBoxes();
     void layOutAsRow();
     void layOutAsGrid();
@@ -78,4 +84,5 @@ private:
     QCheckBox m_lockBox;
     QCheckBox m_readOnlyBox;
     QCheckBox m_userBackgroundBox;
+    LineLabel* m_header = nullptr;
 };

@@ -8,6 +8,7 @@
 #include "multiitemselectionwidget.h"
 #include "sharedconstants.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,9 +22,10 @@ MultiItemSelectionDialog::MultiItemSelectionDialog(QWidget* parent, Qt::WindowFl
     // Without a window frame it would have no edge on a grey application.
     setStyleSheet(Look::framedPanel(QStringLiteral("#MultiItemSelectionDialog")));
 
-    m_importButton = new QPushButton(tr("Import", "Button text for importing a file."));
-    m_okButton = new QPushButton(tr("OK", "Button text for accepting the selection dialog."));
-    m_cancelButton = new QPushButton(tr("Cancel", "Button text for canceling selection dialog."));
+    m_importButton = new QPushButton;
+    m_okButton = new QPushButton;
+    m_cancelButton = new QPushButton;
+    retranslate();
     for (QPushButton* button : { m_importButton, m_okButton, m_cancelButton }) {
         button->setMinimumHeight(IconButtonSize.height()); // a finger's, whatever the style
     }
@@ -51,6 +53,21 @@ MultiItemSelectionWidget* MultiItemSelectionDialog::getSelectionWidget()
 void MultiItemSelectionDialog::addAvailableItem(QStandardItem* item)
 {
     m_selectionWidget->addAvailableItem(item);
+}
+
+void MultiItemSelectionDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void MultiItemSelectionDialog::retranslate()
+{
+    m_importButton->setText(tr("Import", "Button text for importing a file."));
+    m_okButton->setText(tr("OK", "Button text for accepting the selection dialog."));
+    m_cancelButton->setText(tr("Cancel", "Button text for canceling selection dialog."));
 }
 
 void MultiItemSelectionDialog::createLayout()

@@ -55,7 +55,11 @@ public Q_SLOTS:
     /// what an import brings.
     virtual void addAvailableItem(QStandardItem* item);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     void createLayout();
 
     MultiItemSelectionWidget* m_selectionWidget = nullptr;

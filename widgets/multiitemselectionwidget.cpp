@@ -7,6 +7,7 @@
 #include "logger.h"
 #include "oxmessagebox.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -223,23 +224,21 @@ QItemSelection selectionOfRows(const QStandardItemModel& model, const Rows& asce
     return selection;
 }
 
-QPushButton* createButton(const QString& text, const QString& accessibleName)
+QPushButton* createButton(const QString& text)
 {
     auto* button = new QPushButton(text);
     button->setFixedSize(ButtonSize, ButtonSize);
     button->setAutoDefault(false); // in a dialog, Enter must not move anything
-    button->setAccessibleName(accessibleName);
     return button;
 }
 
-DragScrollListView* createView(QStandardItemModel* model, const QString& accessibleName)
+DragScrollListView* createView(QStandardItemModel* model)
 {
     auto* view = new DragScrollListView;
     view->setModel(model);
     view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     view->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    view->setAccessibleName(accessibleName);
     return view;
 }
 
@@ -261,10 +260,11 @@ MultiItemSelectionWidget::MultiItemSelectionWidget(QWidget* parent)
     setObjectName(QStringLiteral("MultiItemSelectionWidget"));
     setStyleSheet(QStringLiteral("QPushButton { font-size: 20px; font-weight: bold; "
                                  "text-align: center center; } \n"));
-    m_availableLabel = new QLabel(tr("Available:", "Label for showing number of available items."));
-    m_selectedLabel = new QLabel(tr("Selected:", "Label for showing number of selected items."));
+    m_availableLabel = new QLabel;
+    m_selectedLabel = new QLabel;
     createButtons();
     createLists();
+    retranslate();
     createLayout();
     connectButtons();
 }
@@ -398,6 +398,14 @@ void MultiItemSelectionWidget::onDownButtonClicked()
     moveMarkedItems(false);
 }
 
+void MultiItemSelectionWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
 void MultiItemSelectionWidget::addItemsToModel(QList<QStandardItem*> items,
                                                QStandardItemModel* model)
 {
@@ -474,23 +482,34 @@ void MultiItemSelectionWidget::moveItem(int row, bool up)
     m_selectedModel->insertRow(target, m_selectedModel->takeRow(row));
 }
 
+void MultiItemSelectionWidget::retranslate()
+{
+    m_availableLabel->setText(tr("Available:", "Label for showing number of available items."));
+    m_selectedLabel->setText(tr("Selected:", "Label for showing number of selected items."));
+    m_addAllButton->setAccessibleName(
+        tr("Add all", "Accessible name of the button that selects all items."));
+    m_addButton->setAccessibleName(tr("Add", "Accessible name of the button that selects items."));
+    m_removeAllButton->setAccessibleName(
+        tr("Remove all", "Accessible name of the button that takes back all selected items."));
+    m_removeButton->setAccessibleName(
+        tr("Remove", "Accessible name of the button that takes back selected items."));
+    m_upButton->setAccessibleName(tr("Up", "Accessible name of the button that moves items up."));
+    m_downButton->setAccessibleName(
+        tr("Down", "Accessible name of the button that moves items down."));
+    m_availableView->setAccessibleName(
+        tr("Available", "Accessible name of the list of available items."));
+    m_selectedView->setAccessibleName(
+        tr("Selected", "Accessible name of the list of selected items."));
+}
+
 void MultiItemSelectionWidget::createButtons()
 {
-    m_addAllButton =
-        createButton(QStringLiteral(">>"),
-                     tr("Add all", "Accessible name of the button that selects all items."));
-    m_addButton = createButton(QStringLiteral(">"),
-                               tr("Add", "Accessible name of the button that selects items."));
-    m_removeAllButton = createButton(
-        QStringLiteral("<<"),
-        tr("Remove all", "Accessible name of the button that takes back all selected items."));
-    m_removeButton =
-        createButton(QStringLiteral("<"),
-                     tr("Remove", "Accessible name of the button that takes back selected items."));
-    m_upButton = createButton(QStringLiteral("▲"),
-                              tr("Up", "Accessible name of the button that moves items up."));
-    m_downButton = createButton(QStringLiteral("▼"),
-                                tr("Down", "Accessible name of the button that moves items down."));
+    m_addAllButton = createButton(QStringLiteral(">>"));
+    m_addButton = createButton(QStringLiteral(">"));
+    m_removeAllButton = createButton(QStringLiteral("<<"));
+    m_removeButton = createButton(QStringLiteral("<"));
+    m_upButton = createButton(QStringLiteral("▲"));
+    m_downButton = createButton(QStringLiteral("▼"));
     m_upButton->hide();
     m_downButton->hide();
 }
@@ -499,10 +518,8 @@ void MultiItemSelectionWidget::createLists()
 {
     m_availableModel = new ListModel(this);
     m_selectedModel = new ListModel(this);
-    m_availableView = createView(
-        m_availableModel, tr("Available", "Accessible name of the list of available items."));
-    m_selectedView = createView(m_selectedModel,
-                                tr("Selected", "Accessible name of the list of selected items."));
+    m_availableView = createView(m_availableModel);
+    m_selectedView = createView(m_selectedModel);
 }
 
 void MultiItemSelectionWidget::createLayout()

@@ -123,6 +123,7 @@ private Q_SLOTS:
     virtual void onDownButtonClicked();
 
 protected:
+    void changeEvent(QEvent* event) override;
     /// Appends each of `items` to `model` as a row of its own. Nothing happens if `model` is null.
     virtual void addItemsToModel(QList<QStandardItem*> items, QStandardItemModel* model);
     /// Deletes the items of `model` and adds `items`. Nothing happens if `items` is empty or
@@ -148,6 +149,7 @@ Q_SIGNALS:
     void selectedItemsChanged(const QList<int>& ids);
 
 private:
+    void retranslate();
     void createButtons();
     void createLists();
     void createLayout();

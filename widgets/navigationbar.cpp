@@ -53,6 +53,15 @@ QString zoomSheet(const QString& normal, const QString& pressed, const QString& 
         .arg(normal, pressed, disabled);
 }
 
+/// `sheet` for a screen that is read from right to left.
+QString mirrored(QString sheet)
+{
+    const QString left = QStringLiteral("-left-");
+    const QString right = QStringLiteral("-right-");
+    const QString neither = QStringLiteral("--");
+    return sheet.replace(left, neither).replace(right, left).replace(neither, right);
+}
+
 /// Gives `button` one size for itself and its picture.
 void prepare(QPushButton* button, const QSize& size)
 {
@@ -67,7 +76,6 @@ QStackedWidget* createStack(QPushButton* arrow)
     auto* placeholder = new QPushButton;
     placeholder->setFlat(true);
     placeholder->setEnabled(false);
-    placeholder->setAccessibleName(arrow->accessibleName());
     prepare(placeholder, ArrowSize);
 
     auto* stack = new QStackedWidget;
@@ -96,6 +104,7 @@ NavigationBar::NavigationBar(QWidget* parent)
     createSearch();
     createZoomButtons();
     createContainers();
+    retranslate();
     layOut();
     followLayoutDirection();
     orderTabs();
@@ -191,10 +200,8 @@ void NavigationBar::hideZoomButtons()
 void NavigationBar::setRecordNumberSlot(int maxIndex)
 {
     m_recordCount = maxIndex + 1;
-    const QString text = m_recordCount < 2
-        ? tr("%1 record", "Label showing number of available database records.")
-        : tr("%1 records", "Label showing number of available database records.");
-    m_recordCountLabel->setText(text.arg(m_recordCount));
+    m_isRecordCountKnown = true;
+    showRecordCount();
     determineNextAndPreviousVisibility();
 }
 
@@ -218,6 +225,7 @@ void NavigationBar::setSearchCompletions(const QStringList& completions)
 
 void NavigationBar::setSearchPlaceholder(const QString& placeholder)
 {
+    m_hasOwnPlaceholder = true;
     m_searchField->setPlaceholderText(placeholder);
 }
 
@@ -259,13 +267,55 @@ void NavigationBar::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange) {
         followLayoutDirection();
+    } else if (event->type() == QEvent::LanguageChange) {
+        retranslate();
     }
+}
+
+void NavigationBar::retranslate()
+{
+    showRecordCount();
+    if (!m_hasOwnPlaceholder) {
+        m_searchField->setPlaceholderText(
+            tr("Enter Search Parameters",
+               "Placeholder text for search a database using a set of parameters."));
+    }
+    m_recordNumberField->setAccessibleName(
+        tr("Record", "Accessible name of the field for the number of a record."));
+    const QString previous =
+        tr("Previous record", "Accessible name of the button to the previous record.");
+    const QString next = tr("Next record", "Accessible name of the button to the next record.");
+    for (const int page : { PlaceholderPage, ArrowPage }) {
+        m_previousStack->widget(page)->setAccessibleName(previous);
+        m_nextStack->widget(page)->setAccessibleName(next);
+    }
+    m_searchField->setAccessibleName(
+        tr("Search for", "Accessible name of the field for what is searched."));
+    m_searchByCombo->setAccessibleName(
+        tr("Search by", "Accessible name of the box for the term to search by."));
+    m_searchButton->setAccessibleName(tr("Search", "Accessible name of the search button."));
+    m_zoomInButton->setAccessibleName(tr("Zoom in", "Accessible name of a zoom button."));
+    m_zoomOutButton->setAccessibleName(tr("Zoom out", "Accessible name of a zoom button."));
+    m_zoomFitButton->setAccessibleName(tr("Zoom to fit", "Accessible name of a zoom button."));
+    m_closeButton->setAccessibleName(tr("Close", "Accessible name of the close button."));
+}
+
+void NavigationBar::showRecordCount()
+{
+    if (!m_isRecordCountKnown) {
+        m_recordCountLabel->setText(
+            tr("1 record(s)", "Label showing number of available database records."));
+        return;
+    }
+    const QString text = m_recordCount < 2
+        ? tr("%1 record", "Label showing number of available database records.")
+        : tr("%1 records", "Label showing number of available database records.");
+    m_recordCountLabel->setText(text.arg(m_recordCount));
 }
 
 void NavigationBar::createRecordNavigation()
 {
-    m_recordCountLabel =
-        new QLabel(tr("1 record(s)", "Label showing number of available database records."));
+    m_recordCountLabel = new QLabel;
     m_recordCountLabel->setStyleSheet(QStringLiteral("color: white"));
     m_recordCountLabel->setAlignment(Qt::AlignCenter);
     m_recordCountLabel->setFixedWidth(120);
@@ -279,14 +329,9 @@ void NavigationBar::createRecordNavigation()
     m_recordNumberField->setValidator(m_recordNumberValidator.get());
     m_recordNumberField->setAlignment(Qt::AlignCenter);
     m_recordNumberField->setFont(ApplicationFont::getWidgetFontSmall(false));
-    m_recordNumberField->setAccessibleName(
-        tr("Record", "Accessible name of the field for the number of a record."));
 
-    m_previousButton =
-        createArrow("previousButton",
-                    tr("Previous record", "Accessible name of the button to the previous record."));
-    m_nextButton = createArrow(
-        "nextButton", tr("Next record", "Accessible name of the button to the next record."));
+    m_previousButton = createArrow("previousButton");
+    m_nextButton = createArrow("nextButton");
     m_previousStack = createStack(m_previousButton);
     m_nextStack = createStack(m_nextButton);
 }
@@ -296,21 +341,14 @@ void NavigationBar::createSearch()
     m_searchField = new OxLineEdit;
     m_searchField->setFixedHeight(35);
     m_searchField->setMinimumWidth(220);
-    m_searchField->setPlaceholderText(
-        tr("Enter Search Parameters",
-           "Placeholder text for search a database using a set of parameters."));
     m_searchField->setStyleSheet(QStringLiteral(
         "QLineEdit { border-top-right-radius: 6px; border-bottom-right-radius: 6px; }"));
-    m_searchField->setAccessibleName(
-        tr("Search for", "Accessible name of the field for what is searched."));
 
     m_searchByCombo = new ClickableComboBox;
     m_searchByCombo->setObjectName(QStringLiteral("searchByCombo"));
     m_searchByCombo->setFixedHeight(35);
     m_searchByCombo->setMinimumWidth(130);
     m_searchByCombo->setStyleSheet(comboSheet());
-    m_searchByCombo->setAccessibleName(
-        tr("Search by", "Accessible name of the box for the term to search by."));
 
     m_completionModel = new QStringListModel(this);
     auto* completer = new QCompleter(m_completionModel, this);
@@ -324,7 +362,6 @@ void NavigationBar::createSearch()
         QStringLiteral("QPushButton { background-color: " LOOK_ACCENT_ORANGE
                        "; border-top-right-radius: 6px; border-bottom-right-radius: 6px; }"));
     prepare(m_searchButton, IconButtonSize);
-    m_searchButton->setAccessibleName(tr("Search", "Accessible name of the search button."));
 }
 
 void NavigationBar::createZoomButtons()
@@ -336,7 +373,6 @@ void NavigationBar::createZoomButtons()
     m_zoomInButton->setStyleSheet(zoomSheet(QStringLiteral(LOOK_IMAGE_ZOOM_IN),
                                             QStringLiteral(LOOK_IMAGE_ZOOM_IN_PRESSED),
                                             QStringLiteral(LOOK_IMAGE_ZOOM_IN_DISABLED)));
-    m_zoomInButton->setAccessibleName(tr("Zoom in", "Accessible name of a zoom button."));
 
     m_zoomOutButton = new QPushButton;
     m_zoomOutButton->setObjectName(QStringLiteral("zoomOutButton"));
@@ -345,7 +381,6 @@ void NavigationBar::createZoomButtons()
     m_zoomOutButton->setStyleSheet(zoomSheet(QStringLiteral(LOOK_IMAGE_ZOOM_OUT),
                                              QStringLiteral(LOOK_IMAGE_ZOOM_OUT_PRESSED),
                                              QStringLiteral(LOOK_IMAGE_ZOOM_OUT_DISABLED)));
-    m_zoomOutButton->setAccessibleName(tr("Zoom out", "Accessible name of a zoom button."));
 
     m_zoomFitButton = new QPushButton;
     m_zoomFitButton->setObjectName(QStringLiteral("zoomFitButton"));
@@ -353,7 +388,6 @@ void NavigationBar::createZoomButtons()
     m_zoomFitButton->setStyleSheet(zoomSheet(QStringLiteral(LOOK_IMAGE_ZOOM_FIT),
                                              QStringLiteral(LOOK_IMAGE_ZOOM_FIT_PRESSED),
                                              QStringLiteral(LOOK_IMAGE_ZOOM_FIT_DISABLED)));
-    m_zoomFitButton->setAccessibleName(tr("Zoom to fit", "Accessible name of a zoom button."));
 }
 
 void NavigationBar::createContainers()
@@ -364,7 +398,6 @@ void NavigationBar::createContainers()
         QStringLiteral("border-image: url(" LOOK_IMAGE_NAVIGATION_CLOSE ")"));
     prepare(m_closeButton, NavigationCloseButtonSize);
     m_closeButton->setFlat(true);
-    m_closeButton->setAccessibleName(tr("Close", "Accessible name of the close button."));
 
     m_addonContainer = new QWidget(this);
     m_addonContainer->hide();
@@ -427,6 +460,13 @@ void NavigationBar::followLayoutDirection()
     const QIcon right(QStringLiteral(LOOK_IMAGE_NAVIGATION_NEXT));
     m_previousButton->setIcon(isRightToLeft() ? right : left);
     m_nextButton->setIcon(isRightToLeft() ? left : right);
+    for (QWidget* widget :
+         std::initializer_list<QWidget*> { m_searchByCombo, m_searchField, m_searchButton }) {
+        if (m_isMirrored != isRightToLeft()) {
+            widget->setStyleSheet(mirrored(widget->styleSheet()));
+        }
+    }
+    m_isMirrored = isRightToLeft();
     // The search button lies over the far end of the field.
     const int covered = IconButtonSize.width();
     m_searchField->setTextMargins(isRightToLeft() ? covered : 0, 0, isRightToLeft() ? 0 : covered,
@@ -462,7 +502,7 @@ void NavigationBar::connectChildren()
     connect(m_zoomFitButton, &QPushButton::clicked, this, &NavigationBar::zoomFitSignal);
 }
 
-QPushButton* NavigationBar::createArrow(const char* name, const QString& accessibleName)
+QPushButton* NavigationBar::createArrow(const char* name)
 {
     auto* arrow = new QPushButton;
     arrow->setObjectName(QLatin1String(name));
@@ -472,7 +512,6 @@ QPushButton* NavigationBar::createArrow(const char* name, const QString& accessi
     dark.setColor(QPalette::Button, QColor(QStringLiteral(LOOK_TITLE_CHARCOAL)));
     arrow->setPalette(dark);
     prepare(arrow, ArrowSize);
-    arrow->setAccessibleName(accessibleName);
     return arrow;
 }
 

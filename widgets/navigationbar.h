@@ -148,6 +148,8 @@ private Q_SLOTS:
     void navigateEditSlot();
 
 private:
+    void retranslate();
+    void showRecordCount();
     void createRecordNavigation();
     void createSearch();
     void createZoomButtons();
@@ -156,11 +158,14 @@ private:
     void followLayoutDirection();
     void orderTabs();
     void connectChildren();
-    QPushButton* createArrow(const char* name, const QString& accessibleName);
+    QPushButton* createArrow(const char* name);
     void connectArrows();
 
     int m_currentRecord = 1;
     int m_recordCount = 1;
+    bool m_isRecordCountKnown = false;
+    bool m_hasOwnPlaceholder = false;
+    bool m_isMirrored = false;
     // Without a parent, so it is deleted here; the field notices.
     std::unique_ptr<QIntValidator> m_recordNumberValidator;
     QLabel* m_recordCountLabel = nullptr;

@@ -9,6 +9,7 @@
 #include "look/images.h"
 #include "sharedconstants.h"
 
+#include <QEvent>
 #include <QGridLayout>
 
 namespace {
@@ -41,8 +42,7 @@ OxCollapsibleWidgetContainer::OxCollapsibleWidgetContainer(QWidget* containedWid
     m_collapseButton->setStyleSheet(collapseButtonSheet());
     m_collapseButton->setCheckable(true);
     m_collapseButton->setFixedSize(IconButtonSize);
-    m_collapseButton->setAccessibleName(
-        tr("Show or hide", "Accessible name of the button that folds a section."));
+    retranslate();
     createLayout();
 
     connect(m_collapseButton, &QPushButton::toggled, this,
@@ -92,6 +92,20 @@ void OxCollapsibleWidgetContainer::hideShowContainedWidget()
         m_containedWidget->setVisible(m_collapseButton->isChecked());
     }
     Q_EMIT collapseButtonPressed(m_containedWidget);
+}
+
+void OxCollapsibleWidgetContainer::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void OxCollapsibleWidgetContainer::retranslate()
+{
+    m_collapseButton->setAccessibleName(
+        tr("Show or hide", "Accessible name of the button that folds a section."));
 }
 
 void OxCollapsibleWidgetContainer::createLayout()

@@ -70,7 +70,11 @@ Q_SIGNALS:
     /// The button was toggled, and the content shown or hidden. `containedWidget` may be null.
     void collapseButtonPressed(QWidget* containedWidget);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     void createLayout();
     void addContainedWidget();
 

@@ -26,6 +26,7 @@
 
 #include <QCursor>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -123,20 +124,34 @@ void setButtonText(QPushButton* button, const QString& text)
                                 button->maximumWidth() - frame));
 }
 
-/// A label `width` pixels wide that shows a long text in two lines, and one with a long word
-/// smaller.
-QLabel* createLabel(const QString& text, int width, QWidget* parent)
+/// A label `width` pixels wide for setLabelText().
+QLabel* createLabel(int width, QWidget* parent)
 {
-    auto* label = new QLabel(text, parent);
+    auto* label = new QLabel(parent);
     label->setWordWrap(true);
     label->setFixedWidth(width);
+    return label;
+}
+
+/// Shows a long text in two lines, and one with a long word smaller.
+void setLabelText(QLabel* label, const QString& text)
+{
+    label->setText(text);
     QFont font = ApplicationFont::getWidgetFontTiny(false);
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString& word : words) {
-        font = fittingFont(font, word, width);
+        font = fittingFont(font, word, label->maximumWidth());
     }
     label->setFont(font);
-    return label;
+}
+
+/// In some languages a part of a sentence starts with a small letter, a sentence never does.
+QString asSentence(QString text)
+{
+    if (!text.isEmpty()) {
+        text.front() = text.front().toUpper();
+    }
+    return text;
 }
 
 QString addFavoriteText()
@@ -180,16 +195,17 @@ OxFileDialog::OxFileDialog(QWidget* parent, const OxFileDialogArgs& args, Dialog
     setWindowModality(Qt::WindowModal);
     setFixedSize(DialogSize);
 
-    QString firstPart = QObject::tr("Open", "First part of the Open File Dialog title.");
-    ContainerTitleBar* titleBar = createDialogTitleBar(args.caption, firstPart);
-    createButtons(firstPart);
+    m_caption = args.caption;
+    createTitleBar();
+    createButtons();
     createBoxes();
     setRootPath(args.directory);
     createFilters(args);
     createFileList();
     createFavorites();
     fillLocationBox();
-    createLayout(titleBar);
+    createLayout();
+    retranslate();
 
     const QSize screen = QGuiApplication::primaryScreen()->size();
     move(screen.width() / 2 - width() / 2, screen.height() / 2 - height() / 2);
@@ -275,6 +291,14 @@ void OxFileDialog::showEvent(QShowEvent* event)
         m_fileNameBox->setFocus(Qt::OtherFocusReason);
     }
     QDialog::showEvent(event);
+}
+
+void OxFileDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_titleBar != nullptr) {
+        retranslate();
+    }
 }
 
 void OxFileDialog::acceptDialogSlot()
@@ -469,48 +493,78 @@ QString OxFileDialog::run(const OxFileDialogArgs& args, DialogState state)
     return dialog.exec() == Accepted ? dialog.selectedPath() : QString();
 }
 
-/// Makes the title bar, keeps the middle part of its title and turns `firstPart`, which is that for
-/// opening, into the one of this dialog.
-ContainerTitleBar* OxFileDialog::createDialogTitleBar(const QString& caption, QString& firstPart)
+void OxFileDialog::retranslate()
 {
-    m_titleMiddlePart = QObject::tr("File", "Middle part of the Select File Dialog title.");
-    if (m_state == SaveFile) {
-        firstPart = QObject::tr("Save", "First part of the Save File Dialog title.");
-    } else if (m_state == SelectFolder) {
-        firstPart = QObject::tr("Select", "First part of the Select File Dialog title.");
-        m_titleMiddlePart = QObject::tr("Folder", "Middle part of the Select Folder Dialog title.");
-    }
-    const QString lastPart =
-        QObject::tr(" Dialog", "Last part of the File or Folder Dialog title.");
+    const bool selectsFolder = m_state == SelectFolder;
+    const QString firstPart = m_state == SaveFile
+        ? QObject::tr("Save", "First part of the Save File Dialog title.")
+        : selectsFolder ? QObject::tr("Select", "First part of the Select File Dialog title.")
+                        : QObject::tr("Open", "First part of the Open File Dialog title.");
+    const QString middlePart = selectsFolder
+        ? QObject::tr("Folder", "Middle part of the Select Folder Dialog title.")
+        : QObject::tr("File", "Middle part of the Select File Dialog title.");
+    m_titleBar->setTitle(m_caption.isEmpty() ? composedTitle(firstPart, middlePart) : m_caption);
 
-    auto* titleBar = new ContainerTitleBar(this);
-    titleBar->setTitle(
-        caption.isEmpty() ? firstPart + QLatin1Char(' ') + m_titleMiddlePart + lastPart : caption);
-    connect(titleBar, &ContainerTitleBar::closeButtonClicked, this, &QWidget::hide);
-    return titleBar;
+    setButtonText(m_acceptButton, asSentence(firstPart));
+    setButtonText(m_cancelButton, tr("Cancel", "Button text to cancel file dialog."));
+    showFavoritesButtonText();
+    m_upButton->setAccessibleName(
+        tr("Up", "Accessible name of the button that shows the folder above."));
+    m_locationBox->setAccessibleName(
+        tr("Location", "Accessible name of the box that names the shown folder."));
+    m_fileList->setAccessibleName(tr("Files", "Accessible name of the list of files and folders."));
+    m_favoritesHeader->setText(
+        tr("Favorites", "Header label for display favorite folder locations."));
+    m_favoritesList->setAccessibleName(m_favoritesHeader->text());
+    setLabelText(
+        m_nameLabel,
+        asSentence(
+            middlePart
+            + tr(
+                " Name",
+                "Label used to denote what the current 'File Name' or 'Folder Name' is selected.")));
+    if (m_formatLabel != nullptr) {
+        setLabelText(m_formatLabel, tr("Format", "Label to denote the file format selected."));
+    }
 }
 
-void OxFileDialog::createButtons(const QString& acceptText)
+QString OxFileDialog::composedTitle(const QString& firstPart, const QString& middlePart)
+{
+    const QString lastPart =
+        QObject::tr(" Dialog", "Last part of the File or Folder Dialog title.");
+    const QString order =
+        tr("%1 %2%3",
+           "Title of the dialog: %1 is Open, Save or Select, %2 File or Folder, %3 Dialog.");
+    for (const char* part : { "%1", "%2", "%3" }) {
+        if (!order.contains(QLatin1String(part))) {
+            return firstPart + QLatin1Char(' ') + middlePart + lastPart;
+        }
+    }
+    return asSentence(order.arg(firstPart, middlePart, lastPart));
+}
+
+void OxFileDialog::createTitleBar()
+{
+    m_titleBar = new ContainerTitleBar(this);
+    connect(m_titleBar, &ContainerTitleBar::closeButtonClicked, this, &QWidget::hide);
+}
+
+void OxFileDialog::createButtons()
 {
     m_acceptButton = new DragScrollButton(this);
     m_acceptButton->setFixedSize(80, RowHeight);
-    setButtonText(m_acceptButton, acceptText);
     m_acceptButton->setDefault(true);
     m_acceptButton->setAutoDefault(true);
 
     m_cancelButton = new DragScrollButton(this);
     m_cancelButton->setFixedSize(80, RowHeight);
-    setButtonText(m_cancelButton, tr("Cancel", "Button text to cancel file dialog."));
 
     m_favoritesButton = new DragScrollButton(this);
     m_favoritesButton->setFixedSize(160, RowHeight);
-    setButtonText(m_favoritesButton, addFavoriteText());
 
     m_upButton = new DragScrollButton(this);
     m_upButton->setStyleSheet(upButtonStyle());
     m_upButton->setFixedSize(IconButtonSize);
-    m_upButton->setAccessibleName(
-        tr("Up", "Accessible name of the button that shows the folder above."));
 }
 
 void OxFileDialog::createBoxes()
@@ -518,8 +572,6 @@ void OxFileDialog::createBoxes()
     m_fileNameBox = createComboBox({ 520, RowHeight });
     m_formatBox = createComboBox({ 340, RowHeight });
     m_locationBox = createComboBox({ 385, 55 });
-    m_locationBox->setAccessibleName(
-        tr("Location", "Accessible name of the box that names the shown folder."));
 }
 
 ClickableComboBox* OxFileDialog::createComboBox(const QSize& size)
@@ -575,7 +627,6 @@ void OxFileDialog::createFilters(const OxFileDialogArgs& args)
 void OxFileDialog::createFileList()
 {
     m_fileList = new DragScrollListView(this);
-    m_fileList->setAccessibleName(tr("Files", "Accessible name of the list of files and folders."));
     m_fileList->setFixedSize(400, 305);
     m_fileList->setStyleSheet(fileListStyle());
     m_fileList->setModel(m_model.get());
@@ -611,22 +662,17 @@ void OxFileDialog::fillLocationBox()
     }
 }
 
-void OxFileDialog::createLayout(ContainerTitleBar* titleBar)
+void OxFileDialog::createLayout()
 {
-    // What the name box leaves of the row.
-    QLabel* nameLabel = createLabel(
-        m_titleMiddlePart
-            + tr(" Name",
-                 "Label used to denote what the current 'File Name' or 'Folder Name' is selected."),
-        82, this);
-    nameLabel->setBuddy(m_fileNameBox);
+    m_nameLabel = createLabel(82, this); // what the name box leaves of the row
+    m_nameLabel->setBuddy(m_fileNameBox);
 
     auto* location = new QHBoxLayout;
     location->addWidget(m_upButton);
     location->addWidget(m_locationBox);
     location->addWidget(m_favoritesButton);
     auto* name = new QHBoxLayout;
-    name->addWidget(nameLabel);
+    name->addWidget(m_nameLabel);
     name->addWidget(m_fileNameBox);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_acceptButton);
@@ -651,25 +697,23 @@ void OxFileDialog::createLayout(ContainerTitleBar* titleBar)
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->setSpacing(10);
-    outer->addWidget(titleBar);
+    outer->addWidget(m_titleBar);
     outer->addLayout(grid);
 }
 
 QLayout* OxFileDialog::createLists()
 {
-    auto* header =
-        new QLabel(tr("Favorites", "Header label for display favorite folder locations."), this);
-    header->setContentsMargins(0, 0, 0, 0);
-    header->setAlignment(Qt::AlignCenter);
-    header->setFixedHeight(25);
-    header->setStyleSheet(QStringLiteral(
+    m_favoritesHeader = new QLabel(this);
+    m_favoritesHeader->setContentsMargins(0, 0, 0, 0);
+    m_favoritesHeader->setAlignment(Qt::AlignCenter);
+    m_favoritesHeader->setFixedHeight(25);
+    m_favoritesHeader->setStyleSheet(QStringLiteral(
         "color: white; background-color: " LOOK_BUTTON_TOP_UPPER_CASE "; font:bold;"));
-    m_favoritesList->setAccessibleName(header->text());
 
     auto* favorites = new QVBoxLayout;
     favorites->setContentsMargins(0, 0, 0, 0);
     favorites->setSpacing(0);
-    favorites->addWidget(header);
+    favorites->addWidget(m_favoritesHeader);
     favorites->addWidget(m_favoritesList);
 
     auto* lists = new QHBoxLayout;
@@ -680,13 +724,11 @@ QLayout* OxFileDialog::createLists()
 
 QLayout* OxFileDialog::createFormatRow()
 {
-    // What format box, spacer and buttons leave of the row.
-    QLabel* label =
-        createLabel(tr("Format", "Label to denote the file format selected."), 64, this);
-    label->setBuddy(m_formatBox);
+    m_formatLabel = createLabel(64, this); // what format box, spacer and buttons leave of the row
+    m_formatLabel->setBuddy(m_formatBox);
 
     auto* format = new QHBoxLayout;
-    format->addWidget(label);
+    format->addWidget(m_formatLabel);
     format->addItem(new QSpacerItem(20, 10));
     format->addWidget(m_formatBox);
     return format;
@@ -820,7 +862,12 @@ void OxFileDialog::deleteFavorite(QListWidgetItem* item)
 void OxFileDialog::offerToRemoveFavorite(bool offered)
 {
     m_removesFavorite = offered;
-    setButtonText(m_favoritesButton, offered ? removeFavoriteText() : addFavoriteText());
+    showFavoritesButtonText();
+}
+
+void OxFileDialog::showFavoritesButtonText()
+{
+    setButtonText(m_favoritesButton, m_removesFavorite ? removeFavoriteText() : addFavoriteText());
 }
 
 void OxFileDialog::loadUSBInfo()

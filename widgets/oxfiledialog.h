@@ -131,6 +131,7 @@ public:
     QString selectedPath() const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
@@ -150,9 +151,12 @@ private Q_SLOTS:
 
 private:
     static QString run(const OxFileDialogArgs& args, DialogState state);
+    static QString composedTitle(const QString& firstPart, const QString& middlePart);
 
-    ContainerTitleBar* createDialogTitleBar(const QString& caption, QString& firstPart);
-    void createButtons(const QString& acceptText);
+    void retranslate();
+    void showFavoritesButtonText();
+    void createTitleBar();
+    void createButtons();
     void createBoxes();
     ClickableComboBox* createComboBox(const QSize& size);
     void setRootPath(const QString& path);
@@ -160,7 +164,7 @@ private:
     void createFileList();
     void createFavorites();
     void fillLocationBox();
-    void createLayout(ContainerTitleBar* titleBar);
+    void createLayout();
     QLayout* createLists();
     QLayout* createFormatRow();
     void createConnections();
@@ -196,6 +200,10 @@ private:
     DragScrollButton* m_acceptButton = nullptr;
     DragScrollButton* m_cancelButton = nullptr;
     DragScrollButton* m_upButton = nullptr;
+    ContainerTitleBar* m_titleBar = nullptr;
+    QLabel* m_favoritesHeader = nullptr;
+    QLabel* m_nameLabel = nullptr;
+    QLabel* m_formatLabel = nullptr;
 
     DialogState m_state = OpenFile;
     QString m_selectedPath;
@@ -208,6 +216,6 @@ private:
     /// The folder that the file list shows: also the first entry of the location box.
     QString m_location;
     QString m_userName;
-    QString m_titleMiddlePart;
+    QString m_caption;
     bool m_removesFavorite = false;
 };

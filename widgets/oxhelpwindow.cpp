@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDataStream>
 #include <QDir>
+#include <QEvent>
 #include <QKeyEvent>
 
 namespace {
@@ -44,16 +45,14 @@ OxHelpWindow::OxHelpWindow(QWidget* parent)
     setObjectName(QStringLiteral("OxHelpWindow"));
     setStyleSheet(dialogSheet());
     m_ui->setupUi(this);
-    m_ui->headerBar->setTitle(tr("HELP", "The title of the help dialog."));
     m_ui->FAQLabel->setFont(ApplicationFont::getWidgetFont(true));
     m_ui->PDFLabel->setFont(ApplicationFont::getWidgetFont(true));
-    m_ui->listWidget->setAccessibleName(m_ui->FAQLabel->text());
-    m_ui->PDFHelpListWidget->setAccessibleName(m_ui->PDFLabel->text());
     m_ui->listWidget->setGridSize(QuestionSize);
     m_ui->listWidget->setStyleSheet(Look::dialogList());
     m_ui->PDFHelpListWidget->setStyleSheet(Look::dialogList());
 
     Look::prepareHouseDialog(this);
+    retranslate();
     setWindowFlags(Qt::FramelessWindowHint);
 
     connect(m_ui->closeButton, &QPushButton::clicked, this, &QWidget::hide);
@@ -128,6 +127,14 @@ void OxHelpWindow::callPDFLaunchSlot(QListWidgetItem* item)
     QCopChannel::send(QStringLiteral("OxHomeInstance"), QStringLiteral("launch"), serialised);
 }
 
+void OxHelpWindow::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
 void OxHelpWindow::keyPressEvent(QKeyEvent* event)
 {
     // The list passes Return on, and the dialog would close on it.
@@ -137,6 +144,14 @@ void OxHelpWindow::keyPressEvent(QKeyEvent* event)
         return;
     }
     QDialog::keyPressEvent(event);
+}
+
+void OxHelpWindow::retranslate()
+{
+    m_ui->retranslateUi(this);
+    m_ui->headerBar->setTitle(tr("HELP", "The title of the help dialog."));
+    m_ui->listWidget->setAccessibleName(m_ui->FAQLabel->text());
+    m_ui->PDFHelpListWidget->setAccessibleName(m_ui->PDFLabel->text());
 }
 
 /// Adds those of `files` that are PDF files; `folder` is the path that they are in.

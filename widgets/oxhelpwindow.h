@@ -75,9 +75,11 @@ public Q_SLOTS:
     void callPDFLaunchSlot(QListWidgetItem* item);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void retranslate();
     void addManuals(const QString& folder, const QStringList& files);
 
     std::unique_ptr<Ui_OxHelpWindow> m_ui;

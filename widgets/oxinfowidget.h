@@ -7,8 +7,10 @@
 
 #include <QDialog>
 
+class ContainerTitleBar;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 
 /*!
  * \brief The About panel: product name, version, how to reach the support, a notice, Close.
@@ -45,9 +47,21 @@ Q_SIGNALS:
     /// Never emitted: for code that connects every panel's signal of this name.
     void focusLost();
 
-private:
-    QGridLayout* createContent(const QString& version);
+protected:
+    void changeEvent(QEvent* event) override;
 
+private:
+    void retranslate();
+    void showVersion();
+    void alignLines();
+    QGridLayout* createContent();
+
+    QString m_version;
+    bool m_isVersionReplaced = false;
+    ContainerTitleBar* m_titleBar = nullptr;
+    QLabel* m_headingLabel = nullptr;
     QLabel* m_versionLabel = nullptr;
-    QString m_versionNumber;
+    QLabel* m_contactLabel = nullptr;
+    QLabel* m_noticeLabel = nullptr;
+    QPushButton* m_closeButton = nullptr;
 };

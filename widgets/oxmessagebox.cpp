@@ -10,6 +10,8 @@
 #include "oxtitlebar.h"
 #include "sharedconstants.h"
 
+#include <QEvent>
+#include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -25,13 +27,42 @@ constexpr int Margin = 12;
 constexpr QChar ZeroWidthSpace(0x200b);
 
 /// A button box that never picks a default button. The plain one makes its first accepting button
-/// the default when it is shown, and Enter would confirm a question that nobody has read.
+/// the default when it is shown, and Enter would confirm a question that nobody has read. In another
+/// language the plain one also takes away the texts that its standard buttons have been given.
 class ButtonBox : public QDialogButtonBox
 {
 public:
     using QDialogButtonBox::QDialogButtonBox;
 
+    /// To be called with each new standard button, while it has the toolkit's text.
+    void keepStandardText(QAbstractButton* button)
+    {
+        button->setProperty(StandardText, button->text());
+    }
+
 protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() != QEvent::LanguageChange) {
+            QDialogButtonBox::changeEvent(event);
+            return;
+        }
+        QHash<QAbstractButton*, QString> ownTexts;
+        const auto all = buttons();
+        for (QAbstractButton* button : all) {
+            if (button->text() != button->property(StandardText).toString()) {
+                ownTexts.insert(button, button->text());
+            }
+        }
+        QDialogButtonBox::changeEvent(event);
+        for (QAbstractButton* button : all) {
+            keepStandardText(button);
+            if (ownTexts.contains(button)) {
+                button->setText(ownTexts.value(button));
+            }
+        }
+    }
+
     bool event(QEvent* event) override
     {
         if (event->type() == QEvent::Show) {
@@ -40,6 +71,9 @@ protected:
         }
         return QDialogButtonBox::event(event);
     }
+
+private:
+    static constexpr char StandardText[] = "standardText";
 };
 
 /// Width of a wrapped text, in pixels: lines across the whole screen are hard to read.
@@ -264,6 +298,7 @@ QPushButton* OxMessageBox::prepared(QPushButton* button) const
 {
     if (button != nullptr) {
         Look::prepareMessageButton(button);
+        static_cast<ButtonBox*>(m_buttonBox)->keepStandardText(button);
         // Without a default button Enter must not press whichever button happens to have the focus.
         button->setAutoDefault(m_hasDefaultButton);
     }

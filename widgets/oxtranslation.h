@@ -46,10 +46,10 @@ class UTILITYWIDGETS_EXPORT OxTranslation
 {
 public:
     /*!
-     * Translates the texts of the library, and those of Qt where Qt's own file of that language
-     * ("qtbase_<language>.qm", in QLibraryInfo::TranslationsPath) is installed on the device, so
-     * that the buttons of message boxes and the menus of text fields speak it, too. Replaces what
-     * an earlier call has installed. The translators belong to the application object and are
+     * Translates the texts of the library and those of the standard buttons of message boxes. Where
+     * Qt's own file of that language ("qtbase_<language>.qm", in QLibraryInfo::TranslationsPath) is
+     * installed on the device, the rest of Qt's texts, such as the menus of text fields, speak it,
+     * too. Replaces what an earlier call has installed. The translators belong to the application object and are
      * deleted with it.
      *
      * Of the languages that `locale` prefers, in the order of QLocale::uiLanguages(), the first

@@ -8,6 +8,7 @@
 #include "toolbox.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QPointer>
 #include <QPushButton>
@@ -33,7 +34,7 @@ QString containerSheet()
                           "border-right: none; }\n");
 }
 
-QPushButton* createArrowButton(int width, const QString& image, const QString& accessibleName)
+QPushButton* createArrowButton(int width, const QString& image)
 {
     auto* button = new QPushButton;
     button->setAutoRepeat(true);
@@ -41,7 +42,6 @@ QPushButton* createArrowButton(int width, const QString& image, const QString& a
         QStringLiteral("background-color: " LOOK_TOOL_ORANGE ";\nborder: none;\n"));
     button->setFixedSize(width, SingleStep);
     button->setIcon(QIcon(image));
-    button->setAccessibleName(accessibleName);
     return button;
 }
 
@@ -59,12 +59,9 @@ void ToolBoxContainer::initialize(QSize size, QPoint position)
         return;
     }
     createToolBox(size, position);
-    m_aboveButton = createArrowButton(
-        size.width(), QStringLiteral(LOOK_IMAGE_ARROW_UP),
-        tr("Scroll up", "Accessible name of the arrow above a column of panels."));
-    m_belowButton = createArrowButton(
-        size.width(), QStringLiteral(LOOK_IMAGE_ARROW_DOWN),
-        tr("Scroll down", "Accessible name of the arrow below a column of panels."));
+    m_aboveButton = createArrowButton(size.width(), QStringLiteral(LOOK_IMAGE_ARROW_UP));
+    m_belowButton = createArrowButton(size.width(), QStringLiteral(LOOK_IMAGE_ARROW_DOWN));
+    retranslate();
     createLayout();
     setStyleSheet(containerSheet());
 
@@ -232,6 +229,14 @@ void ToolBoxContainer::onSliderValueChanged(int /*value*/)
     updateButtons();
 }
 
+void ToolBoxContainer::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
 void ToolBoxContainer::resizeEvent(QResizeEvent* event)
 {
     settleLayouts();
@@ -251,6 +256,17 @@ void ToolBoxContainer::moveEvent(QMoveEvent* event)
     settleLayouts();
     updateButtons();
     QWidget::moveEvent(event);
+}
+
+void ToolBoxContainer::retranslate()
+{
+    if (m_toolBox == nullptr) {
+        return; // not initialised yet
+    }
+    m_aboveButton->setAccessibleName(
+        tr("Scroll up", "Accessible name of the arrow above a column of panels."));
+    m_belowButton->setAccessibleName(
+        tr("Scroll down", "Accessible name of the arrow below a column of panels."));
 }
 
 void ToolBoxContainer::createToolBox(QSize size, QPoint position)

@@ -104,11 +104,13 @@ public Q_SLOTS:
     void onSliderValueChanged(int value);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 
 private:
+    void retranslate();
     void createToolBox(QSize size, QPoint position);
     void createLayout();
     void settleLayouts();

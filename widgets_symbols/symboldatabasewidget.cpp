@@ -23,6 +23,7 @@
 
 #include <QButtonGroup>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -114,6 +115,15 @@ void fitHeight(QAbstractButton* button)
     button->setMinimumHeight(std::max(height, button->minimumHeight()));
 }
 
+/// Gives a category button, if there is one, another text.
+void relabel(QAbstractButton* button, const QString& text)
+{
+    if (button != nullptr) {
+        button->setText(text);
+        fitHeight(button);
+    }
+}
+
 } // namespace
 
 /// The thread on which the library is read, with its worker.
@@ -180,7 +190,7 @@ SymbolDatabaseWidget::SymbolDatabaseWidget(QWidget* parent)
 
     setStyleSheet(Look::framedPanel(QStringLiteral("#SymbolsMenu")));
     resize(900, 518);
-    m_titleBar = new ContainerTitleBar(this, tr("SYMBOLS", "Header label for symbol insert menu."));
+    m_titleBar = new ContainerTitleBar(this);
 
     auto* layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
@@ -188,6 +198,7 @@ SymbolDatabaseWidget::SymbolDatabaseWidget(QWidget* parent)
     layout->addWidget(m_titleBar);
     layout->addLayout(createContent());
     setLayout(layout);
+    retranslate();
     m_symbolView->setFocus();
     // The last child, so that it outlives the buttons, which do not own it.
     m_categoryStyle = new CategoryStyle;
@@ -234,12 +245,8 @@ QByteArray SymbolDatabaseWidget::getSelectedSymbol()
 
 void SymbolDatabaseWidget::setInsertMode(bool insert)
 {
-    m_titleBar->setTitle(
-        insert ? tr("SYMBOLS - INSERT", "Window title for this section that inserts symbols.")
-               : tr("SYMBOLS - EDIT", "Window title for this section that edits symbols."));
-    m_acceptButton->setText(
-        insert ? tr("Insert", "Button text for inserting a symbol image.")
-               : tr("OK", "Button text for accepting the edit of a symbol image."));
+    m_mode = insert ? Mode::Insert : Mode::Edit;
+    showMode();
     m_lockWidget->setVisible(!insert);
 }
 
@@ -330,6 +337,48 @@ void SymbolDatabaseWidget::getUserSymbolItemsList()
     appendSymbols(*m_itemModel, readUserSymbols());
 }
 
+void SymbolDatabaseWidget::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void SymbolDatabaseWidget::retranslate()
+{
+    showMode();
+    m_importButton->setText(
+        tr("Insert From File", "Button text for inserting a custom symbol from a file."));
+    m_cancelButton->setText(tr("Cancel", "Button text to cancel and close the symbol widget."));
+    nameSymbolView(m_symbolView);
+    // What is shown is known by its label: label and button change together.
+    m_allLabel = allLabel();
+    m_userSymbolsLabel = userSymbolsLabel();
+    relabel(m_allButton, m_allLabel);
+    relabel(m_userSymbolsButton, m_userSymbolsLabel);
+}
+
+void SymbolDatabaseWidget::showMode()
+{
+    switch (m_mode) {
+    case Mode::Unset:
+        m_titleBar->setTitle(tr("SYMBOLS", "Header label for symbol insert menu."));
+        m_acceptButton->setText(tr("Insert", "Button text for inserting a symbol."));
+        break;
+    case Mode::Insert:
+        m_titleBar->setTitle(
+            tr("SYMBOLS - INSERT", "Window title for this section that inserts symbols."));
+        m_acceptButton->setText(tr("Insert", "Button text for inserting a symbol image."));
+        break;
+    case Mode::Edit:
+        m_titleBar->setTitle(
+            tr("SYMBOLS - EDIT", "Window title for this section that edits symbols."));
+        m_acceptButton->setText(tr("OK", "Button text for accepting the edit of a symbol image."));
+        break;
+    }
+}
+
 void SymbolDatabaseWidget::connectWorker()
 {
     m_libraryThread = std::make_unique<LibraryThread>();
@@ -382,25 +431,23 @@ QLayout* SymbolDatabaseWidget::createContent()
 
 QLayout* SymbolDatabaseWidget::createButtonRow()
 {
-    m_importButton = createButton(
-        tr("Insert From File", "Button text for inserting a custom symbol from a file."), 160);
-    m_acceptButton = createButton(tr("Insert", "Button text for inserting a symbol."), 120);
+    m_importButton = createButton(160);
+    m_acceptButton = createButton(120);
     m_acceptButton->setDefault(true);
-    QPushButton* cancelButton =
-        createButton(tr("Cancel", "Button text to cancel and close the symbol widget."), 120);
-    connect(cancelButton, &QPushButton::clicked, this, &SymbolDatabaseWidget::reject);
+    m_cancelButton = createButton(120);
+    connect(m_cancelButton, &QPushButton::clicked, this, &SymbolDatabaseWidget::reject);
 
     auto* row = new QHBoxLayout;
     row->addWidget(m_importButton);
     row->addItem(new QSpacerItem(212, 10, QSizePolicy::Expanding, QSizePolicy::Minimum));
     row->addWidget(m_acceptButton);
-    row->addWidget(cancelButton);
+    row->addWidget(m_cancelButton);
     return row;
 }
 
-QPushButton* SymbolDatabaseWidget::createButton(const QString& text, int minimumWidth)
+QPushButton* SymbolDatabaseWidget::createButton(int minimumWidth)
 {
-    auto* button = new QPushButton(text, this);
+    auto* button = new QPushButton(this);
     button->setStyleSheet(dialogButtonSheet());
     button->setMinimumWidth(minimumWidth);
     return button;
@@ -414,10 +461,11 @@ void SymbolDatabaseWidget::createCategoryButtons(const QStringList& categoryName
 
     m_allLabel = allLabel();
     m_userSymbolsLabel = userSymbolsLabel();
-    m_currentButton = createCategoryButton(m_allLabel);
+    m_allButton = createCategoryButton(m_allLabel);
+    m_currentButton = m_allButton;
     m_currentButton->setChecked(true);
     if (withUserSymbols) {
-        createCategoryButton(m_userSymbolsLabel);
+        m_userSymbolsButton = createCategoryButton(m_userSymbolsLabel);
     }
     for (QString name : categoryNames) {
         createCategoryButton(name.replace(QLatin1Char('_'), QLatin1Char(' ')));

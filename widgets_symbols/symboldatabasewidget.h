@@ -106,13 +106,23 @@ Q_SIGNALS:
     /// For applications to emit; the dialog itself does not.
     void operate(const QString& parameter);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     class LibraryThread;
+    enum class Mode {
+        Unset,
+        Insert,
+        Edit,
+    };
 
+    void retranslate();
+    void showMode();
     void connectWorker();
     QLayout* createContent();
     QLayout* createButtonRow();
-    QPushButton* createButton(const QString& text, int minimumWidth);
+    QPushButton* createButton(int minimumWidth);
     void createCategoryButtons(const QStringList& categoryNames, bool withUserSymbols);
     QAbstractButton* createCategoryButton(const QString& text);
     void beginRequest();
@@ -125,6 +135,7 @@ private:
     ToolBoxContainer* m_categoryContainer = nullptr;
     QPushButton* m_acceptButton = nullptr;
     QPushButton* m_importButton = nullptr;
+    QPushButton* m_cancelButton = nullptr;
     DragScrollListView* m_symbolView = nullptr;
     QStandardItemModel* m_itemModel = nullptr;
     LockWidget* m_lockWidget = nullptr;
@@ -132,12 +143,15 @@ private:
     QStyle* m_categoryStyle = nullptr;
     /// The button of the category that is shown or being read. Maybe one of the application's.
     QPointer<QAbstractButton> m_currentButton;
+    QPointer<QAbstractButton> m_allButton;
+    QPointer<QAbstractButton> m_userSymbolsButton;
     /// As they stand on the buttons, whatever language has been chosen since.
     QString m_allLabel;
     QString m_userSymbolsLabel;
     std::unique_ptr<LibraryThread> m_libraryThread;
     std::unique_ptr<SymbolDatabaseModel> m_userModel;
     QString m_libraryPath;
+    Mode m_mode = Mode::Unset;
     bool m_userSymbolsShown = false;
     bool m_allShown = false;
     /// Requests that the worker has not answered yet. Busy means that there are any.

@@ -29,8 +29,12 @@ public:
     explicit SymbolsLineEdit(QWidget* parent = nullptr);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void retranslate();
+    void placeSearchButton();
     QToolButton* m_searchButton = nullptr;
+    QString m_ownName;
 };

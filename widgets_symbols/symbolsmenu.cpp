@@ -14,8 +14,11 @@
 #include "symbolview.h"
 
 #include <QCompleter>
+#include <QEvent>
 #include <QIcon>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -73,6 +76,7 @@ SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, const QString& lib
     createSearchField();
     createCategoryBox(categoryNames);
     createSymbolList();
+    retranslate();
 
     auto* layout = new QVBoxLayout;
     layout->addWidget(m_categoryBox);
@@ -125,6 +129,30 @@ bool SymbolsMenu::hasLibrary() const
     return !m_model->databasePath().isEmpty();
 }
 
+void SymbolsMenu::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void SymbolsMenu::retranslate()
+{
+    m_categoryBox->setAccessibleName(tr("Category", "Accessible name of the symbols' categories."));
+    // The same entry in other words: nobody is told, and what is being typed stays.
+    const QSignalBlocker blocker(m_categoryBox);
+    const QString former = m_categoryBox->itemText(m_allCategoriesIndex);
+    const QString typed = m_categoryBox->currentText();
+    m_categoryBox->setItemText(m_allCategoriesIndex,
+                               tr("All Categories", "Categories header for showing all symbols."));
+    if (m_categoryBox->currentIndex() == m_allCategoriesIndex && typed != former) {
+        m_categoryBox->setEditText(typed);
+    }
+    m_categoryBox->lineEdit()->setCursorPosition(0);
+    nameSymbolView(m_symbolList);
+}
+
 void SymbolsMenu::chooseCategory(int index)
 {
     // A name that is too long for the box shows its beginning.
@@ -155,14 +183,14 @@ void SymbolsMenu::createCategoryBox(const QList<QString>& categoryNames)
 {
     m_categoryBox = new ClickableComboBox(this);
     m_categoryBox->setStyleSheet(Look::whiteComboBox());
-    m_categoryBox->setAccessibleName(tr("Category", "Accessible name of the symbols' categories."));
     // A long name must not make the menu a wide one.
     m_categoryBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_categoryBox->addItems(categoryNames);
     if (hasLibrary()) {
         m_categoryBox->addItems(m_model->categories());
     }
-    m_categoryBox->addItem(tr("All Categories", "Categories header for showing all symbols."));
+    m_allCategoriesIndex = m_categoryBox->count();
+    m_categoryBox->addItem(QString());
 }
 
 void SymbolsMenu::createSymbolList()

@@ -64,14 +64,19 @@ Q_SIGNALS:
     /// not have.
     void symbolSignal(QByteArray symbolData);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     bool hasLibrary() const;
+    void retranslate();
     void chooseCategory(int index);
     void createSearchField();
     void createCategoryBox(const QList<QString>& categoryNames);
     void createSymbolList();
 
     ClickableComboBox* m_categoryBox = nullptr;
+    int m_allCategoriesIndex = 0;
     DragScrollListView* m_symbolList = nullptr;
     SymbolsLineEdit* m_searchField = nullptr;
     QStandardItemModel* m_itemModel = nullptr;

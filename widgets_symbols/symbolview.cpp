@@ -55,5 +55,9 @@ void prepareSymbolView(QListView* view, const QSize& grid)
     // A large library is laid out while the person looks at its first symbols.
     view->setLayoutMode(QListView::Batched);
     view->setBatchSize(BatchSize);
+}
+
+void nameSymbolView(QListView* view)
+{
     view->setAccessibleName(QObject::tr("Symbols", "Accessible name of a list of symbols."));
 }

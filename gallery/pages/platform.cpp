@@ -4,7 +4,9 @@
 #include "pages/families.h"
 
 #include "applicationfont.h"
+#include "lockwidget.h"
 #include "logger.h"
+#include "oxtranslation.h"
 #include "qcopchannel.h"
 #include "stage.h"
 
@@ -74,6 +76,28 @@ void showOxSingleInstanceApplication(Stage& stage)
     });
 }
 
+void showOxTranslation(Stage& stage)
+{
+    stage.setColumns(2);
+    stage.addWide(QStringLiteral("A widget that is alive"), new LockWidget(true, nullptr));
+    stage.setColumns(3);
+    const std::pair<const char*, const char*> languages[] {
+        { "English", "en" }, { "Deutsch", "de" }, { "Français", "fr" },
+        { "Español", "es" }, { "日本語", "ja" },  { "العربية", "ar" },
+    };
+    for (const auto& [name, language] : languages) {
+        const QString code = QString::fromLatin1(language);
+        stage.addAction(QString::fromUtf8(name), [code, stage]() mutable {
+            //! [OxTranslation]
+            QLocale::setDefault(QLocale(code)); // numbers, dates and sizes
+            const bool isTranslated = OxTranslation::install(); // texts, also of living widgets
+            //! [OxTranslation]
+            stage.log(QStringLiteral("%1: %2").arg(
+                code, QLatin1String(isTranslated ? "translated" : "not translated")));
+        });
+    }
+}
+
 void showQCopChannel(Stage& stage)
 {
     auto* last = new QLabel(QStringLiteral("none yet"));
@@ -119,6 +143,13 @@ Family platformFamily()
                 QStringLiteral("Named channels on which the programs of one user send each other "
                                "messages."),
                 showQCopChannel,
+                {},
+            },
+            {
+                QStringLiteral("OxTranslation"),
+                QStringLiteral(
+                    "The language of the library's texts, also while widgets are alive."),
+                showOxTranslation,
                 {},
             },
             {
