@@ -44,7 +44,7 @@ QFrame* createSeparator(QWidget* parent)
 
 OxInfoWidget::OxInfoWidget(const QString& version, QWidget* parent)
     : QDialog(parent)
-    , m_versionNumber(version)
+    , m_version(version)
 {
     setObjectName(QStringLiteral("OxInfoWidget"));
     Look::prepareHouseDialog(this);
@@ -52,7 +52,6 @@ OxInfoWidget::OxInfoWidget(const QString& version, QWidget* parent)
     setModal(true);
     setStyleSheet(Look::framedPanel(QStringLiteral("#OxInfoWidget")));
 
-    m_version = version;
     m_titleBar = new ContainerTitleBar(this);
 
     auto* layout = new QVBoxLayout;

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "documentfile.h"
+
+#include <SymbolInspection>
+
+#include <QColor>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QSet>
+
+namespace {
+
+constexpr int Version = 1;
+constexpr qint64 LargestFile = 32 * 1024 * 1024; // bytes
+constexpr double Farthest = 10000; // millimetres
+const QStringList KindNames = { QStringLiteral("text"), QStringLiteral("rectangle"),
+                                QStringLiteral("ellipse"), QStringLiteral("line"),
+                                QStringLiteral("symbol") };
+
+/// One JSON object whose fields are visited: written from variables, or read into them. The one
+/// list of fields serves both.
+struct Fields
+{
+    QJsonObject json;
+    bool isReading = false;
+    bool isGood = true; ///< all that was read could be used
+
+    template <typename Value> void field(const char* name, Value* value)
+    {
+        QJsonValueRef stored = json[QLatin1String(name)];
+        if (!isReading) {
+            stored = *value;
+        }
+        isGood = isGood && stored.type() == QJsonValue(*value).type();
+        *value = stored.toVariant().value<Value>();
+    }
+    template <typename Value> void field(const char* name, Value* value, Value least, Value most)
+    {
+        const double stored = json[QLatin1String(name)].toDouble();
+        isGood = isGood && (!isReading || (stored >= least && stored <= most));
+        field(name, value);
+    }
+    template <typename Part> void list(const char* name, QList<Part>* parts)
+    {
+        QJsonArray array = json.value(QLatin1String(name)).toArray();
+        parts->resize(isReading ? array.count() : parts->count());
+        for (int i = 0; i < parts->count(); ++i) {
+            Fields fields { array.at(i).toObject(), isReading };
+            visit(&fields, &(*parts)[i]);
+            isGood = isGood && fields.isGood;
+            if (!isReading) {
+                array.append(fields.json);
+            }
+        }
+        json.insert(QLatin1String(name), array);
+    }
+};
+
+void visit(Fields* fields, Object* object)
+{
+    QString kind = KindNames.at(object->kind);
+    QString svg = QString::fromLatin1(object->svg.toBase64());
+    fields->field("id", &object->id, 1, 1000000);
+    fields->field("kind", &kind);
+    fields->field("x", &object->left, -Farthest, Farthest);
+    fields->field("y", &object->top, -Farthest, Farthest);
+    fields->field("width", &object->width, 0., Farthest);
+    fields->field("height", &object->height, 0., Farthest);
+    fields->field("text", &object->text);
+    fields->field("svg", &svg);
+    fields->field("fillColor", &object->fillColor);
+    fields->field("lineColor", &object->lineColor);
+    fields->field("lineWidth", &object->lineWidth, 0., 100.);
+    fields->field("fontSize", &object->fontSize, 1, 500);
+    fields->field("locked", &object->isLocked);
+    fields->field("readOnly", &object->isReadOnly);
+    fields->field("background", &object->isBackground);
+    object->svg = QByteArray::fromBase64(svg.toLatin1());
+    object->kind = Object::Kind(qMax(qsizetype(0), KindNames.indexOf(kind)));
+    fields->isGood = fields->isGood && KindNames.contains(kind)
+        && QColor::isValidColor(object->fillColor) && QColor::isValidColor(object->lineColor)
+        && (object->kind != Object::Symbol || DocumentFile::complaintAbout(object->svg).isEmpty());
+}
+
+void visit(Fields* fields, Layer* layer)
+{
+    fields->field("name", &layer->name);
+    fields->field("visible", &layer->isVisible);
+    fields->list("objects", &layer->objects);
+}
+
+void visit(Fields* fields, Content* content)
+{
+    int version = Version;
+    fields->field("version", &version, 1, Version);
+    fields->field("pageWidth", &content->pageWidth, 1., 2000.);
+    fields->field("pageHeight", &content->pageHeight, 1., 2000.);
+    fields->list("layers", &content->layers);
+}
+
+bool hasEveryIdOnce(const Content& content)
+{
+    QSet<int> ids;
+    const QList<Object> objects = content.objects();
+    for (const Object& object : objects) {
+        ids.insert(object.id);
+    }
+    return ids.count() == objects.count();
+}
+
+} // namespace
+
+QString DocumentFile::read(const QString& path, Content* content)
+{
+    const QString name = QFileInfo(path).fileName();
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly)) {
+        return tr("%1 cannot be read:\n%2", "Error message: a file and the system's reason.")
+            .arg(name, file.errorString());
+    }
+    const QByteArray bytes = file.read(LargestFile + 1);
+    Fields fields { QJsonDocument::fromJson(bytes).object(), true };
+    const QJsonValue version = fields.json.value(QLatin1String("version"));
+    if (bytes.size() > LargestFile || !version.isDouble()) {
+        return tr("%1 is not a label, or it is damaged.", "Error message: a file.").arg(name);
+    }
+    if (version.toDouble() > Version) {
+        return tr("%1 was saved by a newer version of this program.", "Error message: a file.")
+            .arg(name);
+    }
+    visit(&fields, content);
+    return fields.isGood && !content->layers.isEmpty() && hasEveryIdOnce(*content)
+        ? QString()
+        : tr("%1 holds values that cannot be used.", "Error message: a file.").arg(name);
+}
+
+QString DocumentFile::write(const QString& path, Content content)
+{
+    Fields fields;
+    visit(&fields, &content);
+    QSaveFile file(path);
+    if (file.open(QFile::WriteOnly) && file.write(QJsonDocument(fields.json).toJson()) >= 0
+        && file.commit()) {
+        return {};
+    }
+    return tr("%1 cannot be saved:\n%2", "Error message: a file and the system's reason.")
+        .arg(QFileInfo(path).fileName(), file.errorString());
+}
+
+QString DocumentFile::complaintAbout(const QByteArray& svg)
+{
+    const SymbolInspection inspection(svg);
+    return inspection.isRefused() ? inspection.refusal()
+                                  : inspection.leftOut().join(QLatin1String(", "));
+}

@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+#include "editorwindow.h"
+
+#include "canvas.h"
+#include "documentfile.h"
+#include "layerspanel.h"
+#include "propertiespanel.h"
+#include "ui_editorwindow.h"
+
+#include <DatabaseSelectorDialog>
+#include <FileMenuWidget>
+#include <MultiItemSelectionDialog>
+#include <MultiItemSelectionWidget>
+#include <OxFileDialog>
+#include <OxHelpWindow>
+#include <OxInfoWidget>
+#include <OxInputDialog>
+#include <OxMessageBox>
+#include <SymbolDatabaseWidget>
+
+#include <QCloseEvent>
+#include <QSignalBlocker>
+#include <QStandardItem>
+
+namespace {
+
+constexpr QSize MenuItemSize(220, 40);
+constexpr qint64 LargestSymbol = 4 * 1024 * 1024; // bytes
+
+} // namespace
+
+EditorWindow::EditorWindow(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::EditorWindow>())
+    , m_canvas(new Canvas(&m_document))
+{
+    setWindowFlag(Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_StyledBackground);
+    QFile sheet(QStringLiteral(":/editor/editor.qss"));
+    sheet.open(QFile::ReadOnly);
+    setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    m_ui->setupUi(this);
+    setUpPanels();
+    setUpTools();
+    connect(&m_document, &Document::changed, this, &EditorWindow::showDocument);
+    showDocument();
+}
+
+EditorWindow::~EditorWindow() = default;
+
+void EditorWindow::setUpPanels()
+{
+    m_ui->pageLayout->addWidget(m_canvas);
+    m_ui->tabs->addTab(tr("Object", "Tab of the properties of an object."));
+    m_ui->tabs->addTab(tr("Page", "Tab of the page and its layers."));
+    m_ui->panels->addWidget(new PropertiesPanel(&m_document, m_ui->panels->minimumSize()));
+    m_ui->panels->addWidget(new LayersPanel(&m_document));
+    connect(m_ui->tabs, &QTabBar::currentChanged, m_ui->panels, &QStackedWidget::setCurrentIndex);
+    connect(m_ui->records, &RecordBar::currentChanged, m_canvas,
+            [this] { m_canvas->setRecord(m_ui->records->current()); });
+}
+
+void EditorWindow::setUpTools()
+{
+    connect(m_ui->undo, &QPushButton::clicked, &m_document, &Document::undo);
+    connect(m_ui->redo, &QPushButton::clicked, &m_document, &Document::redo);
+    connect(m_ui->addRectangle, &QPushButton::clicked, this, [this] { add(Object::Rectangle); });
+    connect(m_ui->addEllipse, &QPushButton::clicked, this, [this] { add(Object::Ellipse); });
+    connect(m_ui->addLine, &QPushButton::clicked, this, [this] { add(Object::Line); });
+    connect(m_ui->fit, &QPushButton::clicked, m_canvas, &Canvas::zoomToFit);
+    m_ui->zoom->setRange(Canvas::LeastZoom, Canvas::MostZoom);
+    connect(m_ui->zoom, &QSlider::valueChanged, m_canvas, &Canvas::setZoom);
+    connect(m_canvas, &Canvas::zoomChanged, this, [this](int percent) {
+        const QSignalBlocker blocker(m_ui->zoom);
+        m_ui->zoom->setValue(percent);
+        m_ui->zoomLabel->setText(tr("%1 %", "Zoom in percent.").arg(percent));
+    });
+}
+
+void EditorWindow::showDocument()
+{
+    const QString file = QFileInfo(m_document.path()).fileName();
+    const QString name = file.isEmpty() ? tr("New Label", "A document without a file.") : file;
+    m_ui->titleBar->setTitle(m_document.isModified() ? name + QStringLiteral(" *") : name);
+    m_ui->undo->setEnabled(m_document.canUndo());
+    m_ui->redo->setEnabled(m_document.canRedo());
+    m_ui->remove->setEnabled(!m_document.selectedObjects().isEmpty());
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(mayLeave());
+}
+
+void EditorWindow::showMenu()
+{
+    if (auto* open = findChild<FileMenuWidget*>()) {
+        open->deleteLater(); // a second tap on the button
+        return;
+    }
+    auto* menu = new FileMenuWidget(this);
+    const QList<QAction*> commands = actions();
+    for (const QAction* command : commands) {
+        auto* item = new QPushButton(command->text(), menu);
+        item->setObjectName(QStringLiteral("MenuItem"));
+        item->setFixedSize(MenuItemSize);
+        // A tap must not take the focus, which would end the menu before the tap is over.
+        item->setFocusPolicy(Qt::TabFocus);
+        menu->addMenuItem(item);
+        connect(item, &QPushButton::clicked, menu, &QObject::deleteLater);
+        connect(item, &QPushButton::clicked, command, &QAction::trigger, Qt::QueuedConnection);
+    }
+    connect(menu, &FileMenuWidget::focusLost, menu, [menu] {
+        if (!menu->isAncestorOf(QApplication::focusWidget())) {
+            menu->deleteLater();
+        }
+    });
+    menu->adjustSize();
+    menu->move(m_ui->file->geometry().bottomLeft());
+    menu->show();
+    menu->setFocus();
+}
+
+bool EditorWindow::mayLeave()
+{
+    if (!m_document.isModified()) {
+        return true;
+    }
+    const auto answer = OxMessageBox::customQuestion(
+        this, tr("NOT SAVED", "Title of a question."),
+        tr("The label has been changed.\nSave the changes?", "Question."),
+        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+        { { QMessageBox::Yes, tr("Save", "Button.") },
+          { QMessageBox::No, tr("Discard", "Button: the changes are lost.") } });
+    return answer == QMessageBox::Yes ? save() : answer == QMessageBox::No;
+}
+
+bool EditorWindow::check(const QString& error)
+{
+    if (!error.isEmpty()) {
+        OxMessageBox::warning(this, tr("ERROR", "The title of an error dialog window."), error);
+    }
+    return error.isEmpty();
+}
+
+void EditorWindow::newDocument()
+{
+    if (mayLeave()) {
+        m_document.reset(Document().content(), QString());
+        m_canvas->zoomToFit();
+    }
+}
+
+void EditorWindow::openDocument()
+{
+    if (mayLeave()) {
+        openFile(OxFileDialog::getOpenFileName(this, QString(), m_document.path(),
+                                               tr("Labels (*.label)", "Kind of files.")));
+    }
+}
+
+void EditorWindow::openFile(const QString& path)
+{
+    Content content;
+    if (!path.isEmpty() && check(DocumentFile::read(path, &content))) {
+        m_document.reset(content, path);
+        m_canvas->zoomToFit();
+    }
+}
+
+bool EditorWindow::save()
+{
+    return m_document.path().isEmpty() ? saveAs() : saveTo(m_document.path());
+}
+
+bool EditorWindow::saveAs()
+{
+    return saveTo(askForFile(QString(), tr("Labels (*.label)", "Kind of files.")));
+}
+
+bool EditorWindow::saveTo(const QString& path)
+{
+    if (path.isEmpty() || !check(DocumentFile::write(path, m_document.content()))) {
+        return false;
+    }
+    m_document.setSaved(path);
+    return true;
+}
+
+QString EditorWindow::askForFile(const QString& caption, const QString& filter)
+{
+    const QString path = OxFileDialog::getSaveFileName(this, caption, m_document.path(), filter);
+    const QString question = tr("%1 is there already.\nReplace it?", "Question; a file.");
+    const bool isWanted = !QFileInfo::exists(path)
+        || OxMessageBox::question(this, tr("REPLACE", "Title of a question."),
+                                  question.arg(QFileInfo(path).fileName()),
+                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+            == QMessageBox::Yes;
+    return isWanted ? path : QString();
+}
+
+void EditorWindow::print()
+{
+    const QString path = askForFile(tr("Print to PDF", "Title of a dialog."),
+                                    tr("PDF Documents (*.pdf)", "Kind of files."));
+    if (!path.isEmpty()) {
+        check(DocumentPainter::print(path, m_document.content(), m_ui->records->records()));
+    }
+}
+
+void EditorWindow::openDatabase()
+{
+    DatabaseSelectorDialog dialog(QStringLiteral("Labels"), this);
+    if (dialog.exec() == QDialog::Accepted && !dialog.getDatabaseName().isEmpty()) {
+        check(m_ui->records->open(dialog.getDatabaseName()));
+    }
+}
+
+void EditorWindow::showHelp()
+{
+    OxHelpWindow help(this);
+    help.insertHelpFAQs({
+        { QIcon(QStringLiteral(":/Lock/Lock/object-lock.png")),
+          tr("Why can an object not be moved?\nIt is locked: see its lock options.", "Help.") },
+        { QIcon(QStringLiteral(":/Navigation/NavigationIcons/search-icon.png")),
+          tr("How does a text show a record?\nWrite a field's name as {name}.", "Help.") },
+    });
+    help.populatePDF(QStringLiteral("Editor"));
+    help.exec();
+}
+
+void EditorWindow::showAbout()
+{
+    OxInfoWidget(QStringLiteral(EDITOR_VERSION), this).exec();
+}
+
+void EditorWindow::add(Object::Kind kind, const QString& text, const QByteArray& svg)
+{
+    Object object;
+    object.kind = kind;
+    object.text = text;
+    object.svg = svg;
+    object.width = kind == Object::Text ? 50 : 25;
+    object.height = kind == Object::Text ? 10 : 20;
+    m_document.add(object);
+}
+
+void EditorWindow::addText()
+{
+    const QString text =
+        OxInputDialog::getText(this, tr("TEXT", "Title of a dialog."),
+                               tr("Text, or a field of a record as {name}:", "Label of a field."));
+    if (!text.isEmpty()) {
+        add(Object::Text, text);
+    }
+}
+
+void EditorWindow::addSymbol()
+{
+    SymbolDatabaseWidget browser(this);
+    browser.setInsertMode(true);
+    QByteArray svg;
+    connect(&browser, &SymbolDatabaseWidget::importSymbolRequestedSignal, &browser, [&] {
+        QFile file(OxFileDialog::getOpenFileName(&browser, QString(), QString(),
+                                                 tr("Drawings (*.svg)", "Kind of files.")));
+        if (file.open(QFile::ReadOnly)) {
+            svg = file.read(LargestSymbol);
+            browser.reject();
+        }
+    });
+    if (browser.exec() == QDialog::Accepted) {
+        svg = browser.getSelectedSymbol();
+    }
+    if (!svg.isEmpty() && check(DocumentFile::complaintAbout(svg))) {
+        add(Object::Symbol, QString(), svg);
+    }
+}
+
+void EditorWindow::selectSeveral()
+{
+    QList<QStandardItem*> items; // which the dialog owns
+    QList<int> selected;
+    for (const Object& object : m_document.content().objects()) {
+        items.append(new QStandardItem(object.description()));
+        items.constLast()->setData(object.id, Qt::UserRole + 1);
+        if (m_document.isSelected(object)) {
+            selected.append(object.id);
+        }
+    }
+    MultiItemSelectionDialog dialog(this);
+    dialog.getSelectionWidget()->setAvailableItems(items);
+    dialog.getSelectionWidget()->setSelectedItems(selected);
+    if (dialog.exec() == QDialog::Accepted) {
+        m_document.select(dialog.getSelectionWidget()->getSelectedItemIds());
+    }
+}
+
+void EditorWindow::removeSelected()
+{
+    check(m_document.removeSelected() ? QString() : tr("An object is locked.", "Error message."));
+}
+
+#include "moc_editorwindow.cpp"

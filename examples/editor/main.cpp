@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
+// SPDX-License-Identifier: MIT
+
+// An editor for labels: the model of an application that is made of this library alone.
+
+#include "editorwindow.h"
+
+#include <OxSingleInstanceApplication>
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+int main(int argc, char* argv[])
+{
+    // Named first: the file dialog keeps the favourites in the application's settings.
+    QCoreApplication::setOrganizationName(QStringLiteral("UtilityWidgets"));
+    QCoreApplication::setApplicationName(QStringLiteral("utilitywidgets-editor"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(EDITOR_VERSION));
+    OxSingleInstanceApplication application(argc, argv, QStringLiteral("UtilityWidgetsEditor"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Edits labels and prints them to PDF files."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The label to open."),
+                                 QStringLiteral("[file]"));
+    parser.process(application);
+    if (!application.isOnlyInstance()) {
+        return 0; // the first instance has come forward
+    }
+    EditorWindow window;
+    application.setMainWidget(&window);
+    const QString path = parser.positionalArguments().value(0);
+    if (!path.isEmpty()) {
+        window.openFile(path);
+    }
+    std::puts("editing"); // for whoever waits for the window
+    std::fflush(stdout);
+    return OxSingleInstanceApplication::exec();
+}
