@@ -38,9 +38,8 @@ void SymbolPreview::setSymbol(const QByteArray& svg)
 void SymbolPreview::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setPen(SheetEdge);
-    painter.setBrush(Qt::white);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), SheetEdge);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::white);
     painter.setRenderHint(QPainter::Antialiasing);
     m_renderer->render(&painter, QRectF(rect()).adjusted(Margin, Margin, -Margin, -Margin));
 }

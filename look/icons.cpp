@@ -3,10 +3,13 @@
 
 #include "look/icons.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHash>
 #include <QIcon>
 #include <QPixmap>
+#include <QtMath>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +25,17 @@ void clearCache()
     cache().clear();
 }
 
+/// Whether there are no pictures between those of plain screens and their "@2x" twins for it.
+bool isFraction(qreal devicePixelRatio)
+{
+    return devicePixelRatio > 1 && !qFuzzyCompare(devicePixelRatio, qRound(devicePixelRatio));
+}
+
+qint64 area(const QSize& size)
+{
+    return qint64(size.width()) * size.height();
+}
+
 } // namespace
 
 QIcon Look::icon(const QString& path)
@@ -32,6 +46,12 @@ QIcon Look::icon(const QString& path)
     QIcon& icon = cache()[path];
     if (icon.isNull()) {
         icon = QIcon(path);
+        const qreal ratio = qGuiApp->devicePixelRatio();
+        if (isFraction(ratio)) {
+            // Left to itself QIcon keeps the proportions to the pixel, gets a picture that is a
+            // little too small for an odd size, and has it stretched again, blurred, when painted.
+            icon.addPixmap(picture(path, ratio));
+        }
     }
     return icon;
 }
@@ -49,5 +69,39 @@ QPixmap Look::picture(const QString& path, qreal devicePixelRatio)
     if (plain.isNull() || devicePixelRatio <= 1) {
         return plain;
     }
-    return QIcon(path).pixmap(plain.size(), devicePixelRatio);
+    QPixmap fine = QIcon(path).pixmap(plain.size(), qCeil(devicePixelRatio));
+    if (isFraction(devicePixelRatio)) {
+        fine = fine.scaled(plain.size() * devicePixelRatio, Qt::IgnoreAspectRatio,
+                           Qt::SmoothTransformation);
+        fine.setDevicePixelRatio(devicePixelRatio);
+    }
+    return fine;
+}
+
+QSize Look::shownSize(const QIcon& icon, const QSize& room, qreal devicePixelRatio)
+{
+    if (icon.isNull()) {
+        return { 0, 0 };
+    }
+    if (devicePixelRatio <= 1) {
+        return icon.actualSize(room);
+    }
+    const QList<QSize> sizes = icon.availableSizes();
+    if (sizes.isEmpty()) {
+        return icon.actualSize(room); // drawn in any size
+    }
+    QSize largest =
+        *std::max_element(sizes.begin(), sizes.end(), [](const QSize& left, const QSize& right) {
+            return area(left) < area(right);
+        });
+    for (const qreal ratio : { devicePixelRatio, qreal(qCeil(devicePixelRatio)) }) {
+        const auto plain = std::find_if(sizes.begin(), sizes.end(),
+                                        [&](const QSize& size) { return size * ratio == largest; });
+        if (plain != sizes.end()) {
+            largest = *plain;
+            break;
+        }
+    }
+    const bool fits = largest.width() <= room.width() && largest.height() <= room.height();
+    return fits ? largest : largest.scaled(room, Qt::KeepAspectRatio);
 }

@@ -7,6 +7,7 @@
 
 class QIcon;
 class QPixmap;
+class QSize;
 class QString;
 
 namespace Look {
@@ -26,5 +27,11 @@ QIcon listIcon(const QString& path);
 /// The image at `path`, in its own size and as sharp as a screen of that device pixel ratio shows
 /// it: QPixmap alone takes no notice of the "@2x" file beside it. Null if there is no image.
 QPixmap picture(const QString& path, qreal devicePixelRatio);
+
+/// The size in which a plain screen shows `icon` where there is that much `room` for it: its own, or
+/// less in the same proportions. QIcon, which has no notion of a plain screen, takes a picture for
+/// finer screens for a larger one and shows it twice as large there. Pictures count as such when
+/// the icon has them in the plain size too. No size for a null icon.
+QSize shownSize(const QIcon& icon, const QSize& room, qreal devicePixelRatio);
 
 } // namespace Look

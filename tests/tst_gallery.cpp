@@ -92,6 +92,15 @@ QStringList pictureNames()
     return names;
 }
 
+/// Where the pictures of a tour are, which is taken when they are first asked for.
+QString tourFolder()
+{
+    static const QTemporaryDir folder;
+    static const QString tour = folder.filePath(QStringLiteral("new/tour"));
+    static const bool isTaken = Gallery::takeTour(tour);
+    return isTaken ? tour : QString();
+}
+
 /// Temporary files go to a folder of their own for as long as this lives.
 class TemporaryFolder
 {
@@ -213,10 +222,7 @@ void TestGallery::everyPageFitsTheWidthOfTheWindow()
 
 void TestGallery::theTourWritesOnePicturePerPageAndDialog()
 {
-    const QTemporaryDir folder;
-    QVERIFY(Gallery::takeTour(folder.filePath(QStringLiteral("new/tour"))));
-
-    const QDir pictures(folder.filePath(QStringLiteral("new/tour")));
+    const QDir pictures(tourFolder());
     QStringList expected = pictureNames();
     expected.replaceInStrings(QRegularExpression(QStringLiteral("$")), QStringLiteral(".png"));
     expected.sort();
@@ -227,7 +233,7 @@ void TestGallery::theTourWritesOnePicturePerPageAndDialog()
     QSet<QByteArray> different;
     for (const QString& name : std::as_const(written)) {
         const QImage image(pictures.filePath(name));
-        QCOMPARE(image.size(), ScreenSize);
+        QCOMPARE(image.size(), ScreenSize * qGuiApp->devicePixelRatio());
         QVERIFY2(!isBlank(image), qPrintable(name));
         different.insert(QByteArray::fromRawData(reinterpret_cast<const char*>(image.constBits()),
                                                  image.sizeInBytes())
@@ -238,10 +244,10 @@ void TestGallery::theTourWritesOnePicturePerPageAndDialog()
 
 void TestGallery::theTourShowsTranslucentWindowsAsAPersonSeesThem()
 {
-    const QTemporaryDir folder;
-    QVERIFY(Gallery::takeTour(folder.path()));
+    const QDir pictures(tourFolder());
     const auto pixel = [&](const char* picture, const QPoint& at) {
-        return QImage(folder.filePath(QLatin1String(picture))).pixelColor(at);
+        return QImage(pictures.filePath(QLatin1String(picture)))
+            .pixelColor(at * qGuiApp->devicePixelRatio());
     };
     const QPoint bright(ScreenWidth - 5, 59);
     const QPoint dimmed(ScreenWidth - 5, 60);

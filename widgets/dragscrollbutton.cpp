@@ -3,6 +3,7 @@
 
 #include "dragscrollbutton.h"
 
+#include "look/icons.h"
 #include "touch/draggesture.h"
 
 #include <QCoreApplication>
@@ -73,8 +74,8 @@ void DragScrollButton::fitButtonText(QPushButton* button, int spacing, int leftM
     }
     const QString text = button->text();
     const qreal ratio = button->devicePixelRatio();
-    const QPixmap icon = button->icon().pixmap(size, ratio, QIcon::Normal, QIcon::Off);
-    const QSize iconSize = icon.deviceIndependentSize().toSize();
+    const QSize iconSize = Look::shownSize(button->icon(), size, ratio);
+    const QPixmap icon = button->icon().pixmap(iconSize, ratio, QIcon::Normal, QIcon::Off);
     if (button->accessibleName().isEmpty()) {
         button->setAccessibleName(text);
     }

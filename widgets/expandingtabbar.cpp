@@ -3,6 +3,7 @@
 
 #include "expandingtabbar.h"
 
+#include "look/icons.h"
 #include "look/images.h"
 
 #include <QPainter>
@@ -12,20 +13,25 @@ namespace {
 
 constexpr int IconGap = 5; // pixels between icon and text
 
-/// Null when there is nothing to show.
-QPixmap createSwatch(const QString& color, const QSize& size)
+/// Of `size` pixels on a plain screen; null when there is nothing to show.
+QPixmap createSwatch(const QString& color, const QSize& size, qreal devicePixelRatio)
 {
-    QPixmap swatch(size);
+    QPixmap swatch(size * devicePixelRatio);
     if (color == QLatin1String("transparent")) {
-        swatch = QPixmap(QStringLiteral(LOOK_IMAGE_TRANSPARENCY)).scaled(size);
+        swatch = Look::picture(QStringLiteral(LOOK_IMAGE_TRANSPARENCY), devicePixelRatio)
+                     .scaled(swatch.size());
     } else if (const QColor fill(color); fill.isValid()) {
         swatch.fill(fill);
     } else {
         return {};
     }
+    swatch.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&swatch);
-    painter.setPen(QPen(Qt::black, 0));
-    painter.drawRect(0, 0, swatch.width() - 1, swatch.height() - 1);
+    const QRect edge(QPoint(), size);
+    const QRegion frame = QRegion(edge) - edge.adjusted(1, 1, -1, -1);
+    for (const QRect& side : frame) {
+        painter.fillRect(side, Qt::black);
+    }
     return swatch;
 }
 
@@ -51,7 +57,11 @@ QSize ExpandingTabBar::tabSizeHint(int index) const
 
 void ExpandingTabBar::setTabColorRect(int index, const QString& color)
 {
-    setTabIcon(index, QIcon(createSwatch(color, iconSize())));
+    QIcon icon(createSwatch(color, iconSize(), 1));
+    if (devicePixelRatioF() > 1) {
+        icon.addPixmap(createSwatch(color, iconSize(), devicePixelRatioF()));
+    }
+    setTabIcon(index, icon);
 }
 
 void ExpandingTabBar::paintEvent(QPaintEvent* /*event*/)
@@ -82,9 +92,12 @@ void ExpandingTabBar::paintTab(QPainter* painter, int index)
     QRect textRect = tab;
     if (!icon.isNull()) {
         const int textWidth = fontMetrics().horizontalAdvance(text);
-        const QRect iconRect = tab.adjusted(0, 0, -(textWidth + IconGap), 0);
-        icon.paint(painter, QStyle::visualRect(layoutDirection(), tab, iconRect), Qt::AlignCenter,
-                   QIcon::Normal, QIcon::Off);
+        const QRect room = QStyle::visualRect(option.direction, tab,
+                                              tab.adjusted(0, 0, -(textWidth + IconGap), 0));
+        const QRect iconRect =
+            QStyle::alignedRect(option.direction, Qt::AlignCenter,
+                                Look::shownSize(icon, room.size(), devicePixelRatioF()), room);
+        icon.paint(painter, iconRect, Qt::AlignCenter, QIcon::Normal, QIcon::Off);
         textRect.setLeft(tab.left() + iconSize().width() + IconGap);
     }
     painter->drawText(QStyle::visualRect(layoutDirection(), tab, textRect), Qt::AlignCenter, text);

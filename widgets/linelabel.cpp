@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QtMath>
 
 namespace {
 
@@ -94,7 +95,10 @@ void LineLabel::paintEvent(QPaintEvent* event)
 void LineLabel::paintRule()
 {
     QPainter painter(this);
-    painter.setPen(m_lineColor);
+    // Of whole pixels of the screen: otherwise, at a scale with a fraction, rules differ in width
+    // depending on where they are.
+    const qreal ratio = devicePixelRatioF();
+    painter.setPen(QPen(m_lineColor, qMax(1, qFloor(ratio)) / ratio));
     const int gap = fontMetrics().horizontalAdvance(text()) + TextGap;
     const int w = width() - 1;
     const int y = (height() - 1) / 2;

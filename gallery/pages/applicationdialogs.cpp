@@ -155,7 +155,8 @@ QList<QPair<QIcon, QString>> questions()
           QStringLiteral("Why can an object not be moved?") },
         { QIcon(QStringLiteral(LOOK_IMAGE_TRANSPARENCY)),
           QStringLiteral("How do I see all of it?") },
-        { QIcon(QStringLiteral(LOOK_IMAGE_NAVIGATION_SEARCH)), longText() + longText() },
+        { QIcon(QStringLiteral(LOOK_IMAGE_NAVIGATION_SEARCH)),
+          longText() + QLatin1Char(' ') + longText() },
         { QIcon(QStringLiteral(LOOK_IMAGE_FILE)), QStringLiteral("How do I print?") },
     };
 }

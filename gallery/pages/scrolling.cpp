@@ -173,7 +173,8 @@ void showDragScrollButton(Stage& stage)
     stage.add(QStringLiteral("Enabled"), new DragScrollButton(QStringLiteral("Arrows")));
     stage.add(QStringLiteral("Disabled"), disabled(new DragScrollButton(QStringLiteral("Arrows"))));
     for (const QString& text : { QStringLiteral("Arrows"), longText() }) {
-        auto* fitted = new DragScrollButton(QIcon(QStringLiteral(LOOK_IMAGE_INFORMATION)), text);
+        auto* fitted =
+            new DragScrollButton(QIcon(QStringLiteral(LOOK_IMAGE_FAVORITE_FOLDER)), text);
         fitted->setFont(ApplicationFont::getWidgetFontLarge(true));
         fitted->setFixedSize(ColumnWidth, 48);
         DragScrollButton::fitButtonText(fitted, 8, 4);
