@@ -25,6 +25,8 @@ private Q_SLOTS:
 
     void aFileBecomesTheSymbolOfItsFullName();
     void onlyDrawingsInFoldersCount();
+    void whichFilesAreDrawings_data();
+    void whichFilesAreDrawings();
     void hiddenFoldersCount();
     void aFolderWithoutDrawingsBecomesACategory();
     void aSecondUpdateAddsNothingAndListsAllAsUpdated();
@@ -161,6 +163,43 @@ void TestSymbolUpdate::onlyDrawingsInFoldersCount()
     database.model.close();
     QCOMPARE(database.sql(Symbols), QStringList(QStringLiteral("Signs|a.svg")));
     QCOMPARE(database.model.categories(), QStringList(QStringLiteral("Signs")));
+}
+
+void TestSymbolUpdate::whichFilesAreDrawings_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("counts");
+    QTest::newRow("capitals") << QStringLiteral("ARROW.SVG") << true;
+    QTest::newRow("characters of wildcards") << QStringLiteral("[a]*?.svg") << true;
+    QTest::newRow("characters of other scripts") << QStringLiteral("矢印 ä.svg") << true;
+    QTest::newRow("two lines") << QStringLiteral("a\nb.svg") << true;
+    QTest::newRow("hidden") << QStringLiteral(".hidden.svg") << false;
+    QTest::newRow("ending alone") << QStringLiteral(".svg") << false;
+    QTest::newRow("ending without a dot") << QStringLiteral("asvg") << false;
+    QTest::newRow("compressed") << QStringLiteral("a.svgz") << false;
+}
+
+void TestSymbolUpdate::whichFilesAreDrawings()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, counts);
+    draw(QStringLiteral("Signs/") + name);
+    // Links count as what they lead to.
+    QVERIFY(QFile::link(m_folder->filePath(QStringLiteral("Signs/") + name),
+                        m_folder->filePath(QStringLiteral("Signs/link.svg"))));
+    QVERIFY(QFile::link(m_folder->filePath(QStringLiteral("nowhere.svg")),
+                        m_folder->filePath(QStringLiteral("Signs/broken.svg"))));
+    SymbolDatabase database(SymbolDatabase::Schema);
+    QVERIFY(database.model.updateDatabase(root()));
+    database.model.close();
+    QStringList expected { QStringLiteral("link.svg") };
+    if (counts) {
+        expected.append(name);
+    }
+    QStringList names = database.sql(QStringLiteral("SELECT Name FROM Image"));
+    names.sort();
+    expected.sort();
+    QCOMPARE(names, expected);
 }
 
 void TestSymbolUpdate::hiddenFoldersCount()
