@@ -5,6 +5,7 @@
 // of the application stay.
 
 #include "clickablecombobox.h"
+#include "clickablelabel.h"
 #include "containertitlebar.h"
 #include "databasesavewidget.h"
 #include "databaseselectordialog.h"
@@ -24,7 +25,6 @@
 #include "support/modaldialog.h"
 #include "support/test.h"
 #include "support/visibletexts.h"
-#include "symboldatabasewidget.h"
 #include "symbolslineedit.h"
 #include "symbolsmenu.h"
 #include "toolboxcontainer.h"
@@ -87,18 +87,6 @@ std::unique_ptr<QWidget> createInputDialog()
                                                   QStringLiteral("Size"), QStringLiteral("Width"));
     dialog->setTextLayout(QStringLiteral("12"));
     return dialog;
-}
-
-std::unique_ptr<QWidget> createSymbolBrowser()
-{
-    return std::make_unique<SymbolDatabaseWidget>();
-}
-
-std::unique_ptr<QWidget> createSymbolBrowser(bool insert)
-{
-    auto browser = std::make_unique<SymbolDatabaseWidget>();
-    browser->setInsertMode(insert);
-    return browser;
 }
 
 template <typename Widget> Make plain()
@@ -202,9 +190,6 @@ void TestLanguageChange::theTextsOfAWidgetFollowTheLanguage_data()
                                               QMessageBox::Yes | QMessageBox::Cancel);
     });
     QTest::newRow("OxTitleBar") << plain<OxTitleBar>();
-    QTest::newRow("SymbolDatabaseWidget") << Make([] { return createSymbolBrowser(); });
-    QTest::newRow("SymbolDatabaseWidget, insert") << Make([] { return createSymbolBrowser(true); });
-    QTest::newRow("SymbolDatabaseWidget, edit") << Make([] { return createSymbolBrowser(false); });
     QTest::newRow("SymbolsLineEdit") << plain<SymbolsLineEdit>();
     QTest::newRow("SymbolsMenu") << plain<SymbolsMenu>();
     QTest::newRow("ToolBoxContainer") << Make(createToolBoxContainer);
@@ -401,8 +386,9 @@ void TestLanguageChange::theChosenOptionAndTheFontsFollow()
     QCOMPARE(dialog.getResponse(), 2);
     // A text that is too long for its line is smaller: each as in a dialog that is made now.
     const DatabaseSaveWidget fresh;
-    const auto labels = dialog.findChildren<QLabel*>();
-    const auto freshLabels = fresh.findChildren<QLabel*>();
+    const auto labels = dialog.findChildren<ClickableLabel*>();
+    const auto freshLabels = fresh.findChildren<ClickableLabel*>();
+    QCOMPARE(labels.size(), 4);
     QCOMPARE(labels.size(), freshLabels.size());
     for (int i = 0; i < labels.size(); ++i) {
         QCOMPARE(labels.at(i)->font().pointSizeF(), freshLabels.at(i)->font().pointSizeF());

@@ -10,11 +10,14 @@
 #include "sharedconstants.h"
 #include "support/countingitem.h"
 #include "support/finger.h"
+#include "support/longtranslation.h"
 #include "support/modaldialog.h"
 #include "support/secondprocess.h"
 #include "support/symboldatabase.h"
 #include "support/syncstandin.h"
 #include "support/test.h"
+#include "support/translationrecorder.h"
+#include "support/visibletexts.h"
 #include "toolbox.h"
 #include "toolboxcontainer.h"
 
@@ -35,6 +38,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 class TestSymbolDatabaseWidget : public Test
 {
@@ -82,6 +86,9 @@ private Q_SLOTS:
     void aCallThatComesFromNoButtonIsIgnored();
     void aButtonOfTheApplicationsChoosesACategory();
     void anotherLanguageDoesNotChangeWhatTheButtonsMean();
+    void livingButtonsSpeakAnotherLanguageAndMeanTheSame();
+    void theTextsFollowTheLanguage_data();
+    void theTextsFollowTheLanguage();
     void nothingCanBePickedWhileACategoryIsRead();
     void anEmptyCategoryShowsNothing();
     void answersThatAreOutOfDateAreNotShown();
@@ -919,6 +926,62 @@ void TestSymbolDatabaseWidget::anotherLanguageDoesNotChangeWhatTheButtonsMean()
     QCOMPARE(browser.names(), words("mine"));
     browser.button("All")->click();
     QVERIFY(browser.shows(words("mine up.svg")));
+}
+
+void TestSymbolDatabaseWidget::livingButtonsSpeakAnotherLanguageAndMeanTheSame()
+{
+    makeLibrary({ QStringLiteral("Arrows/up") });
+    makeUserSymbols(words("mine"));
+    const Browser browser;
+    QVERIFY(browser.isReady());
+    browser.button("User Symbols")->click();
+    TranslationRecorder other("QObject");
+    other.setTranslation("All", QStringLiteral("Alle"));
+    other.setTranslation("User Symbols", QStringLiteral("Eigene"));
+    QTRY_COMPARE(browser.categoryTexts(), words("Alle Eigene Arrows"));
+    QCOMPARE(browser.checkedCategory(), QStringLiteral("Eigene"));
+    QCOMPARE(browser.names(), words("mine")); // nothing is read again
+    browser.button("Alle")->click();
+    QVERIFY(browser.shows(words("mine up.svg")));
+    browser.button("Eigene")->click();
+    QCOMPARE(browser.names(), words("mine"));
+    browser.button("Arrows")->click();
+    QVERIFY(browser.shows(words("up.svg")));
+}
+
+void TestSymbolDatabaseWidget::theTextsFollowTheLanguage_data()
+{
+    QTest::addColumn<std::optional<bool>>("insert");
+
+    QTest::newRow("new") << std::optional<bool>();
+    QTest::newRow("to insert") << std::optional<bool>(true);
+    QTest::newRow("to edit") << std::optional<bool>(false);
+}
+
+void TestSymbolDatabaseWidget::theTextsFollowTheLanguage()
+{
+    QFETCH(std::optional<bool>, insert);
+    makeLibrary({ QStringLiteral("Arrows/up") });
+    makeUserSymbols(words("mine"));
+    const auto setMode = [&](const Browser& browser) {
+        QVERIFY(browser.isReady());
+        if (insert) {
+            browser.widget->setInsertMode(*insert);
+        }
+    };
+    const Browser living;
+    setMode(living);
+    const QStringList english = visibleTexts(*living.widget);
+    {
+        const LongTranslation other;
+        settleLanguageChange();
+        const Browser fresh;
+        setMode(fresh);
+        QCOMPARE(visibleTexts(*living.widget), visibleTexts(*fresh.widget));
+        QVERIFY(visibleTexts(*living.widget) != english);
+    }
+    settleLanguageChange();
+    QCOMPARE(visibleTexts(*living.widget), english);
 }
 
 void TestSymbolDatabaseWidget::nothingCanBePickedWhileACategoryIsRead()
