@@ -33,6 +33,7 @@ private Q_SLOTS:
     void startsAfreshAfterItsEnd();
     void scrollsTheBarAgainstTheFingerAndWithinItsRange_data();
     void scrollsTheBarAgainstTheFingerAndWithinItsRange();
+    void theContentFollowsTheFingerAlsoFromRightToLeft();
     void stopsScrollingWhenItsListenerDeletesTheArea();
     void pausesScrollingOnlyWhileAPressMovesTheFocus();
     void seesTheFocusInsideAnIndexWidget();
@@ -185,6 +186,29 @@ void TestDragGesture::losesTheFingerOfAWidgetThatCanNoLongerBeReached()
     QVERIFY(!Touch::losesFinger(widget, QEvent(QEvent::EnabledChange)));
     widget.setEnabled(false);
     QVERIFY(Touch::losesFinger(widget, QEvent(QEvent::EnabledChange)));
+}
+
+void TestDragGesture::theContentFollowsTheFingerAlsoFromRightToLeft()
+{
+    QScrollArea area;
+    area.setLayoutDirection(Qt::RightToLeft);
+    auto* content = new QWidget;
+    content->setFixedSize(1000, 1000);
+    area.setWidget(content);
+    area.resize(300, 300);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    area.horizontalScrollBar()->setValue(100);
+    area.verticalScrollBar()->setValue(100);
+    const QPoint before = content->pos();
+
+    Touch::dragScrollBar(50, 80, area.horizontalScrollBar()); // 30 to the right
+    Touch::dragScrollBar(50, 40, area.verticalScrollBar()); // 10 up
+    QCOMPARE(content->pos(), before + QPoint(30, -10));
+    Touch::dragScrollBar(0, 5000, area.horizontalScrollBar());
+    QCOMPARE(content->x(), 0);
+    Touch::dragScrollBar(5000, 0, area.horizontalScrollBar());
+    QCOMPARE(content->geometry().right(), area.viewport()->rect().right());
 }
 
 void TestDragGesture::stopsScrollingWhenItsListenerDeletesTheArea()

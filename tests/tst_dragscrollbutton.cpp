@@ -162,6 +162,7 @@ private Q_SLOTS:
 
     void fitButtonTextMakesOnePictureOfIconAndText();
     void fitButtonTextPutsTheIconAtTheLeftMarginAndTheTextRightOfIt();
+    void fitButtonTextIsMirroredForLanguagesFromRightToLeft();
     void fitButtonTextShrinksALongTextUntilItFits_data();
     void fitButtonTextShrinksALongTextUntilItFits();
     void fitButtonTextStopsAtPointSizeOne();
@@ -741,6 +742,27 @@ void TestDragScrollButton::fitButtonTextPutsTheIconAtTheLeftMarginAndTheTextRigh
         QVERIFY(ink.left() >= textLeft && ink.left() <= textLeft + 3);
         QVERIFY(qAbs(ink.center().y() - 20) <= 3);
     }
+}
+
+void TestDragScrollButton::fitButtonTextIsMirroredForLanguagesFromRightToLeft()
+{
+    QPushButton button(redIcon(21), QStringLiteral("HHH"));
+    button.setLayoutDirection(Qt::RightToLeft);
+    button.resize(208, 48);
+    DragScrollButton::fitButtonText(&button, 5, 3);
+    const QImage picture = pictureOf(button);
+    const QRect icon(200 - 3 - 21, 9, 21, 21);
+    QCOMPARE(picture.pixelColor(icon.topLeft()), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(icon.bottomRight()), QColor(Qt::red));
+    QCOMPARE(picture.pixelColor(199, 20).alpha(), 0);
+    const int textRight = icon.left() - 5;
+    int ink = -1;
+    for (int x = 0; x < icon.left(); ++x) {
+        for (int y = 0; y < picture.height(); ++y) {
+            ink = picture.pixelColor(x, y).alpha() > 0 ? x : ink;
+        }
+    }
+    QVERIFY(ink < textRight && ink >= textRight - 4);
 }
 
 void TestDragScrollButton::fitButtonTextShrinksALongTextUntilItFits_data()

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void aSwatchWithoutTextIsCentredLessFivePixels_data();
     void aSwatchWithoutTextIsCentredLessFivePixels();
     void iconAndTextAreCentredWithAGapOfFivePixels();
+    void theSwatchStandsRightOfATextFromRightToLeft();
     void aTextWithoutIconIsCentredInTheTab();
     void aTextThatFillsTheTabLeavesNoRoomForTheSwatch();
     void hiddenTabsAreNotPainted();
@@ -355,6 +356,17 @@ void TestExpandingTabBar::iconAndTextAreCentredWithAGapOfFivePixels()
     const int left = tab.left() + bar->iconSize().width() + 5;
     QVERIFY(!text.isEmpty());
     QVERIFY(qAbs(text.center().x() - (left + tab.right()) / 2) <= 2);
+}
+
+void TestExpandingTabBar::theSwatchStandsRightOfATextFromRightToLeft()
+{
+    const auto bar = createBar(300, { QStringLiteral("HHH"), QStringLiteral("Pen") }, 1);
+    bar->setTabColorRect(0, QStringLiteral("magenta"));
+    const QRect tab = bar->tabRect(0);
+    const QRect swatch = paintedSwatch(bar.get());
+    bar->setLayoutDirection(Qt::RightToLeft);
+    const QRect mirroredTab = bar->tabRect(0);
+    QCOMPARE(paintedSwatch(bar.get()).right(), mirroredTab.right() - (swatch.left() - tab.left()));
 }
 
 void TestExpandingTabBar::aTextWithoutIconIsCentredInTheTab()

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void emptyTextStillLeavesAGapOfTenPixels();
     void ruleLeavesTheTextAndTenPixelsFree_data();
     void ruleLeavesTheTextAndTenPixelsFree();
+    void ruleLeavesATextFromRightToLeftFree();
     void ruleRunsThroughTheMiddle_data();
     void ruleRunsThroughTheMiddle();
     void textWiderThanTheLabelLeavesNoRule_data();
@@ -296,6 +297,24 @@ void TestLineLabel::ruleLeavesTheTextAndTenPixelsFree()
     const int side = (width - gap) / 2;
     QCOMPARE(runs(picture(label), 15),
              QStringLiteral("0-%1 %2-%3").arg(side).arg(width - 1 - side).arg(width - 1));
+}
+
+void TestLineLabel::ruleLeavesATextFromRightToLeftFree()
+{
+    const QString text = QStringLiteral("خيارات القفل");
+    LineLabel label(text);
+    label.resize(200, 31);
+    label.setLineColor(RuleColor);
+    const int gap = label.fontMetrics().horizontalAdvance(text) + 10;
+    const QString left = QStringLiteral("0-%1").arg(199 - gap);
+    const QString right = QStringLiteral("%1-199").arg(gap);
+    // The label puts such a text at the other end, and the rule makes way.
+    label.setLineType(LineLabel::LineLeft);
+    QCOMPARE(runs(picture(label), 15), right);
+    label.setLineType(LineLabel::LineRight);
+    QCOMPARE(runs(picture(label), 15), left);
+    label.setText(QStringLiteral("Lock"));
+    QVERIFY(runs(picture(label), 15).endsWith(QStringLiteral("-199")));
 }
 
 void TestLineLabel::ruleRunsThroughTheMiddle_data()

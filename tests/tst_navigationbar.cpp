@@ -644,6 +644,10 @@ void TestNavigationBar::isMirroredForLanguagesFromRightToLeft()
     QTRY_VERIFY(parts.previousStack->x() > parts.nextStack->x());
     QCOMPARE(picture(parts.previous), right);
     QCOMPARE(picture(parts.next), left);
+    // Round at the outer ends of the row.
+    QVERIFY(parts.searchButton->styleSheet().contains(QLatin1String("border-top-left-radius")));
+    QVERIFY(parts.search->styleSheet().contains(QLatin1String("border-bottom-left-radius")));
+    QVERIFY(!parts.search->styleSheet().contains(QLatin1String("-right-")));
     // What is typed ends before the button here, too.
     QCOMPARE(parts.searchButton->x(), parts.search->x());
     parts.search->setText(QString(200, QChar(0x0645)));
@@ -655,6 +659,7 @@ void TestNavigationBar::isMirroredForLanguagesFromRightToLeft()
     window.setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(picture(parts.previous), left);
     QCOMPARE(picture(parts.next), right);
+    QVERIFY(parts.searchButton->styleSheet().contains(QLatin1String("border-top-right-radius")));
 }
 
 void TestNavigationBar::everythingFitsTheScreen()

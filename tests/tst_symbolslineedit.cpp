@@ -18,6 +18,7 @@ private Q_SLOTS:
     void theMagnifierHasItsIconCursorAndName();
     void theMagnifierEndsOnePixelInsideTheRightBorder_data();
     void theMagnifierEndsOnePixelInsideTheRightBorder();
+    void theMagnifierStandsAtTheLeftForLanguagesFromRightToLeft();
     void theOtherMarginsAreKept();
     void theTextNeverRunsUnderTheMagnifier_data();
     void theTextNeverRunsUnderTheMagnifier();
@@ -82,6 +83,27 @@ void TestSymbolsLineEdit::theMagnifierEndsOnePixelInsideTheRightBorder()
     QCOMPARE(place.right(), field.width() - 2);
     QCOMPARE(place.top(), (field.height() - hint.height()) / 2);
     QCOMPARE(field.textMargins().right(), hint.width() + 4);
+}
+
+void TestSymbolsLineEdit::theMagnifierStandsAtTheLeftForLanguagesFromRightToLeft()
+{
+    SymbolsLineEdit field;
+    field.resize(300, 35);
+    field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&field));
+    const int width = magnifier(field)->sizeHint().width();
+    field.setTextMargins(7, 1, field.textMargins().right(), 2);
+    for (int turn = 0; turn < 2; ++turn) {
+        field.setLayoutDirection(Qt::RightToLeft);
+        QCOMPARE(magnifier(field)->geometry().left(), 1);
+        QCOMPARE(field.textMargins(), QMargins(width + 4, 1, 7, 2));
+        field.resize(310 + turn, 35);
+        QCOMPARE(magnifier(field)->geometry().left(), 1);
+        QCOMPARE(field.textMargins(), QMargins(width + 4, 1, 7, 2));
+        field.setLayoutDirection(Qt::LeftToRight);
+        QCOMPARE(magnifier(field)->geometry().right(), field.width() - 2);
+        QCOMPARE(field.textMargins(), QMargins(7, 1, width + 4, 2));
+    }
 }
 
 void TestSymbolsLineEdit::theOtherMarginsAreKept()
