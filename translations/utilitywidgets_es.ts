@@ -476,7 +476,7 @@ support@example.com</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation>Interrumpir</translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>Retry</source>

@@ -69,7 +69,7 @@
     <message>
         <source>Lock</source>
         <comment>Lock button text.</comment>
-        <translation>Verrouiller</translation>
+        <translation>Verrou</translation>
     </message>
     <message>
         <source>All object properties except for data editing are prevented from being changed.</source>
@@ -105,7 +105,7 @@ et imprimé au choix (option d’impression).</translation>
     <message>
         <source>Lock Options</source>
         <comment>Section header for object lock options.</comment>
-        <translation>Options de verrouillage</translation>
+        <translation>Verrouillage</translation>
     </message>
 </context>
 <context>

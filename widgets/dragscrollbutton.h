@@ -43,7 +43,8 @@ public:
 
     /*!
      * Makes one picture of the button's icon and, right of it, its text, and shows that alone: for
-     * a text that may be longer than the button, such as a category's name.
+     * a text that may be longer than the button, such as a category's name. A button that is laid
+     * out from right to left gets its mirror image.
      *
      * Works on any push button, at its present size: give it that first, and call this again with
      * text and icon set anew when it changes. The picture's text has the button's colour

@@ -32,7 +32,8 @@ class UTILITYWIDGETS_EXPORT LineLabel : public QLabel
     Q_PROPERTY(QColor lineColor READ lineColor WRITE setLineColor NOTIFY lineColorChanged)
 
 public:
-    /// Where the rule runs, seen from the text. The type also sets the label's alignment.
+    /// Where the rule runs, seen from the text. The type also sets the label's alignment. Left and
+    /// right change places for a text that is read from right to left.
     enum LineType : int {
         LineLeft = 0, ///< Left of the text, which stands at the right edge.
         LineRight = 1, ///< Right of the text, which stands at the left edge.

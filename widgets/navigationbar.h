@@ -107,7 +107,7 @@ public Q_SLOTS:
     /// Replaces what the search field offers while a person types. Upper and lower case are the
     /// same there.
     void setSearchCompletions(const QStringList& completions);
-    /// Replaces the text that the empty search field shows.
+    /// Replaces the text that the empty search field shows, in every language.
     void setSearchPlaceholder(const QString& placeholder);
     /// Empties the search field. Emits nothing.
     void clearSearchString();

@@ -41,12 +41,21 @@ public:
     }
 
 protected:
-    void changeEvent(QEvent* event) override
+    bool event(QEvent* event) override
     {
-        if (event->type() != QEvent::LanguageChange) {
-            QDialogButtonBox::changeEvent(event);
-            return;
+        if (event->type() == QEvent::Show) {
+            showEvent(static_cast<QShowEvent*>(event));
+            return true;
         }
+        if (event->type() == QEvent::LanguageChange) {
+            return retranslate(event);
+        }
+        return QDialogButtonBox::event(event);
+    }
+
+private:
+    bool retranslate(QEvent* event)
+    {
         QHash<QAbstractButton*, QString> ownTexts;
         const auto all = buttons();
         for (QAbstractButton* button : all) {
@@ -54,25 +63,16 @@ protected:
                 ownTexts.insert(button, button->text());
             }
         }
-        QDialogButtonBox::changeEvent(event);
+        const bool handled = QDialogButtonBox::event(event);
         for (QAbstractButton* button : all) {
             keepStandardText(button);
             if (ownTexts.contains(button)) {
                 button->setText(ownTexts.value(button));
             }
         }
+        return handled;
     }
 
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::Show) {
-            showEvent(static_cast<QShowEvent*>(event));
-            return true;
-        }
-        return QDialogButtonBox::event(event);
-    }
-
-private:
     static constexpr char StandardText[] = "standardText";
 };
 

@@ -10,7 +10,7 @@
 class QToolButton;
 
 /*!
- * \brief A line edit with a magnifier at its right end, which stands for the Return key.
+ * \brief A line edit with a magnifier at its end, which stands for the Return key.
  *
  * Use it for a search that begins when the person says so, on a screen without a keyboard at hand:
  *
@@ -19,7 +19,8 @@ class QToolButton;
  * connect(field, &QLineEdit::returnPressed, this, [=] { search(field->text()); });
  * \endcode
  *
- * The text never runs under the magnifier: the right text margin belongs to the field itself.
+ * The text never runs under the magnifier: the right text margin belongs to the field itself, or
+ * the left one where the layout runs from right to left.
  */
 class UTILITYWIDGETS_EXPORT SymbolsLineEdit : public QLineEdit
 {
@@ -35,6 +36,8 @@ protected:
 private:
     void retranslate();
     void placeSearchButton();
+
     QToolButton* m_searchButton = nullptr;
+    /// The accessible name as long as the application has given no other.
     QString m_ownName;
 };
