@@ -79,6 +79,10 @@ int main(int argc, char* argv[])
         QStringLiteral("tour"),
         QStringLiteral("Write one picture per page and dialog into <folder>, then end."),
         QStringLiteral("folder"));
+    const QCommandLineOption pictures(
+        QStringLiteral("pictures"),
+        QStringLiteral("As --tour, but of what the pages show alone, without the gallery around."),
+        QStringLiteral("folder"));
     const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Start on page <name>."),
                                   QStringLiteral("name"));
     const QCommandLineOption language(
@@ -86,7 +90,7 @@ int main(int argc, char* argv[])
         QStringLiteral("Show the library's own texts in the language with that <code>: ar, de, en, "
                        "es, fr or ja."),
         QStringLiteral("code"));
-    parser.addOptions({ list, tour, page, language });
+    parser.addOptions({ list, tour, pictures, page, language });
     // Before there is an application object: which one it is depends on what is asked for. Options
     // of Qt's own, which only the application object takes away, are of no importance here.
     QStringList arguments;
@@ -94,7 +98,8 @@ int main(int argc, char* argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     parser.parse(arguments);
-    if (!parser.isSet(help) && !parser.isSet(list) && !parser.isSet(tour)) {
+    if (!parser.isSet(help) && !parser.isSet(list) && !parser.isSet(tour)
+        && !parser.isSet(pictures)) {
         return showGallery(argc, argv, parser, page, language);
     }
 
@@ -108,5 +113,7 @@ int main(int argc, char* argv[])
     if (!speak(parser.value(language))) {
         return 1;
     }
-    return Gallery::takeTour(parser.value(tour)) ? 0 : 1;
+    const bool complete = (!parser.isSet(tour) || Gallery::takeTour(parser.value(tour)))
+        && (!parser.isSet(pictures) || Gallery::takePictures(parser.value(pictures)));
+    return complete ? 0 : 1;
 }

@@ -4,6 +4,7 @@
 #include "tour.h"
 
 #include "gallerywindow.h"
+#include "look/palette.h"
 #include "page.h"
 #include "sharedconstants.h"
 
@@ -14,12 +15,14 @@
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
+#include <QScrollArea>
 #include <QStyleHints>
 #include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <utility>
 
 namespace Gallery {
@@ -28,6 +31,7 @@ namespace {
 
 constexpr int DialogPatience = 5000; // milliseconds until a dialog counts as missing
 constexpr int ListPatience = 1000; // milliseconds until an empty list counts as one
+constexpr int StageMargin = 8; // pixels of the page around its stage
 constexpr int PollInterval = 20; // milliseconds between two looks at a dialog
 
 /// All windows that can be seen, in the order in which they were made: that is how they stack.
@@ -59,6 +63,53 @@ QPixmap picture(GalleryWindow* window)
     return screen;
 }
 
+/// The stage alone: what the page shows, with its captions, on the page's background. Null where
+/// that is nothing.
+QPixmap stagePicture(GalleryWindow* window)
+{
+    auto* stage = window->findChild<QWidget*>(QStringLiteral("GalleryInstancesContent"));
+    QRect used;
+    const auto widgets = stage->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (const QWidget* widget : widgets) {
+        if (widget->isVisible()) {
+            used |= widget->geometry();
+        }
+    }
+    if (used.isEmpty()) {
+        return {};
+    }
+    // What lies around the stage in the window belongs to other parts of the page.
+    QPixmap sheet(used.size() + 2 * QSize(StageMargin, StageMargin));
+    sheet.fill(QColor(QStringLiteral(LOOK_PANEL_GREY)));
+    QPainter(&sheet).drawPixmap(
+        StageMargin, StageMargin,
+        window->grab({ stage->mapTo(window, used.topLeft()), used.size() }));
+    return sheet;
+}
+
+/// What stands in front of the window, and no more of that than lies between.
+QPixmap frontPicture(GalleryWindow* window)
+{
+    QRect front;
+    const QWidgetList widgets = visibleWindows();
+    for (const QWidget* widget : widgets) {
+        if (widget != window) {
+            front |= widget->geometry().translated(-window->pos());
+        }
+    }
+    return picture(window).copy(front & window->rect());
+}
+
+/// Makes the window as high as the page's stage asks for, so that nothing of it is scrolled away.
+void showWholeStage(GalleryWindow* window)
+{
+    const auto* area = window->findChild<QScrollArea*>(QStringLiteral("GalleryInstances"));
+    QApplication::processEvents();
+    const int missing = area->widget()->sizeHint().height() - area->viewport()->height();
+    window->resize(ScreenWidth, ScreenHeight + std::max(missing, 0));
+    QApplication::processEvents();
+}
+
 bool save(const QPixmap& picture, const QString& path)
 {
     const bool saved = picture.save(path, "PNG");
@@ -78,7 +129,10 @@ bool hasEmptyList(const QWidget* dialog)
     });
 }
 
-bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& path)
+using TakePicture = QPixmap (*)(GalleryWindow*);
+
+bool saveDialog(GalleryWindow* window, const DialogState& state, TakePicture take,
+                const QString& path)
 {
     bool saved = false;
     QElapsedTimer waited;
@@ -101,7 +155,7 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
             std::fprintf(stderr, "no dialog for %s\n", qUtf8Printable(path));
         } else if (!over) {
             QApplication::processEvents();
-            saved = save(picture(window), path);
+            saved = save(take(window), path);
         }
         over = true;
         // One that opens another when it is answered must not make the tour wait for a person.
@@ -114,21 +168,10 @@ bool saveDialog(GalleryWindow* window, const DialogState& state, const QString& 
     return saved;
 }
 
-} // namespace
-
-QWidget* windowInFrontOf(const GalleryWindow* window)
-{
-    if (QWidget* dialog = QApplication::activeModalWidget()) {
-        return dialog;
-    }
-    if (QWidget* popup = QApplication::activePopupWidget()) {
-        return popup;
-    }
-    const QWidgetList widgets = visibleWindows();
-    return widgets.isEmpty() || widgets.constLast() == window ? nullptr : widgets.constLast();
-}
-
-bool takeTour(const QString& folder)
+/// Goes through all pages and their dialogs. `savePage` gets each page when it is shown, `take` takes
+/// the picture of each dialog.
+bool walk(const QString& folder, TakePicture take,
+          const std::function<bool(GalleryWindow*, const QString& path)>& savePage)
 {
     // Absolute, because a page may change the working directory.
     const QDir target(QDir(folder).absolutePath());
@@ -150,14 +193,46 @@ bool takeTour(const QString& folder)
         for (const Page& page : family.pages) {
             window.showPage(page.id);
             QApplication::processEvents();
-            complete &= save(picture(&window), target.filePath(page.id + QStringLiteral(".png")));
+            complete &= savePage(&window, target.filePath(page.id + QStringLiteral(".png")));
             for (const DialogState& state : page.dialogs) {
                 const QString name = QStringLiteral("%1-%2.png").arg(page.id, state.id);
-                complete &= saveDialog(&window, state, target.filePath(name));
+                complete &= saveDialog(&window, state, take, target.filePath(name));
             }
         }
     }
     return complete;
+}
+
+} // namespace
+
+QWidget* windowInFrontOf(const GalleryWindow* window)
+{
+    if (QWidget* dialog = QApplication::activeModalWidget()) {
+        return dialog;
+    }
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        return popup;
+    }
+    const QWidgetList widgets = visibleWindows();
+    return widgets.isEmpty() || widgets.constLast() == window ? nullptr : widgets.constLast();
+}
+
+bool takeTour(const QString& folder)
+{
+    return walk(folder, picture, [](GalleryWindow* window, const QString& path) {
+        return save(picture(window), path);
+    });
+}
+
+bool takePictures(const QString& folder)
+{
+    return walk(folder, frontPicture, [](GalleryWindow* window, const QString& path) {
+        showWholeStage(window);
+        const QPixmap stage = stagePicture(window);
+        const bool saved = stage.isNull() || save(stage, path);
+        window->resize(ScreenSize);
+        return saved;
+    });
 }
 
 } // namespace Gallery

@@ -24,4 +24,10 @@ QWidget* windowInFrontOf(const GalleryWindow* window);
  */
 bool takeTour(const QString& folder);
 
+/*!
+ * The same pictures for a text about the classes: of a page nothing but its stage, and no picture
+ * where that is empty; of a dialog nothing but the dialog.
+ */
+bool takePictures(const QString& folder);
+
 } // namespace Gallery

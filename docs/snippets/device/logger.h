@@ -3,9 +3,7 @@
 
 #pragma once
 
-/// Tells the two headers of this name apart.
-#define DEVICE_LOGGER 1
-
+//! [logger]
 class Logger;
 
 Logger* loggerInstance();
@@ -19,3 +17,4 @@ public:
 
     void write(const char* format, ...) const __attribute__((format(printf, 2, 3)));
 };
+//! [logger]
