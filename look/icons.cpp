@@ -3,13 +3,18 @@
 
 #include "look/icons.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
+#include <QFile>
 #include <QHash>
 #include <QIcon>
 #include <QPixmap>
 #include <QtMath>
+#include <QtPlugin>
 
 #include <algorithm>
+
+// Linked here, beside what every user of our images needs: nothing else mentions it.
+Q_IMPORT_PLUGIN(ScaledIconPlugin)
 
 namespace {
 
@@ -25,18 +30,32 @@ void clearCache()
     cache().clear();
 }
 
-/// Whether there are no pictures between those of plain screens and their "@2x" twins for it.
-bool isFraction(qreal devicePixelRatio)
-{
-    return devicePixelRatio > 1 && !qFuzzyCompare(devicePixelRatio, qRound(devicePixelRatio));
-}
-
 qint64 area(const QSize& size)
 {
     return qint64(size.width()) * size.height();
 }
 
+/// The image at `path` in the largest of its sizes up to `scale` times the plain one: that of the
+/// file beside it with "@2x" in its name, for a scale of 2.
+QPixmap finest(const QString& path, int scale)
+{
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    const qsizetype end = dot > path.lastIndexOf(QLatin1Char('/')) ? dot : path.size();
+    for (; scale > 1; --scale) {
+        const QString file = QString(path).insert(end, QStringLiteral("@%1x").arg(scale));
+        if (QFile::exists(file)) {
+            return QPixmap(file);
+        }
+    }
+    return QPixmap(path);
+}
+
 } // namespace
+
+bool Look::isFraction(qreal devicePixelRatio)
+{
+    return devicePixelRatio > 1 && !qFuzzyCompare(devicePixelRatio, qRound(devicePixelRatio));
+}
 
 QIcon Look::icon(const QString& path)
 {
@@ -46,12 +65,6 @@ QIcon Look::icon(const QString& path)
     QIcon& icon = cache()[path];
     if (icon.isNull()) {
         icon = QIcon(path);
-        const qreal ratio = qGuiApp->devicePixelRatio();
-        if (isFraction(ratio)) {
-            // Left to itself QIcon keeps the proportions to the pixel, gets a picture that is a
-            // little too small for an odd size, and has it stretched again, blurred, when painted.
-            icon.addPixmap(picture(path, ratio));
-        }
     }
     return icon;
 }
@@ -69,13 +82,15 @@ QPixmap Look::picture(const QString& path, qreal devicePixelRatio)
     if (plain.isNull() || devicePixelRatio <= 1) {
         return plain;
     }
-    QPixmap fine = QIcon(path).pixmap(plain.size(), qCeil(devicePixelRatio));
-    if (isFraction(devicePixelRatio)) {
-        fine = fine.scaled(plain.size() * devicePixelRatio, Qt::IgnoreAspectRatio,
-                           Qt::SmoothTransformation);
-        fine.setDevicePixelRatio(devicePixelRatio);
+    if (!isFraction(devicePixelRatio)) {
+        return QIcon(path).pixmap(plain.size(), devicePixelRatio);
     }
-    return fine;
+    // Read without the help of QIcon, whose engine for these scales asks for this very picture.
+    QPixmap picture = finest(path, qCeil(devicePixelRatio))
+                          .scaled(plain.size() * devicePixelRatio, Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
 }
 
 QSize Look::shownSize(const QIcon& icon, const QSize& room, qreal devicePixelRatio)

@@ -28,6 +28,9 @@ QIcon listIcon(const QString& path);
 /// it: QPixmap alone takes no notice of the "@2x" file beside it. Null if there is no image.
 QPixmap picture(const QString& path, qreal devicePixelRatio);
 
+/// Whether pictures for that ratio lie between those for plain screens and their "@2x" twins.
+bool isFraction(qreal devicePixelRatio);
+
 /// The size in which a plain screen shows `icon` where there is that much `room` for it: its own, or
 /// less in the same proportions. QIcon, which has no notion of a plain screen, takes a picture for
 /// finer screens for a larger one and shows it twice as large there. Pictures count as such when
