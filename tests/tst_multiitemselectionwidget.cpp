@@ -383,6 +383,7 @@ private Q_SLOTS:
     void downAtTheBottomMovesNothing();
     void upAndDownWithNothingMarkedMoveNothing();
     void upAndDownNeitherReportNorSort();
+    void marksFollowTheirItemsInOneStep();
     void theMovedItemStaysInSight();
     void moveItemStopsAtTheEndsAndAtEmptyRows();
 
@@ -946,6 +947,27 @@ void TestMultiItemSelectionWidget::upAndDownWithNothingMarkedMoveNothing()
     QCOMPARE(selectedIds(*widget), (Ids { 2, 1 }));
 }
 
+void TestMultiItemSelectionWidget::marksFollowTheirItemsInOneStep()
+{
+    const auto widget = createWidget({}, numbers(40));
+    const QListView* view = widget->getSelectedListView();
+    const QList<int> rows { 3, 4, 5, 9, 20, 21, 38 };
+    mark(widget->getSelectedListView(), rows);
+    QSignalSpy marks(view->selectionModel(), &QItemSelectionModel::selectionChanged);
+    QSignalSpy current(view->selectionModel(), &QItemSelectionModel::currentChanged);
+    for (const bool up : { true, false }) {
+        marks.clear();
+        current.clear();
+        button(*widget, up ? "▲" : "▼")->click();
+        QCOMPARE(marks.count(), 2); // none, and those that have moved
+        QVERIFY(current.count() <= 1);
+        QCOMPARE(markedRows(widget->getSelectedListView()).count(), rows.count());
+        QVERIFY(!view->currentIndex().isValid());
+    }
+    QCOMPARE(selectedIds(*widget), numbers(40));
+    QCOMPARE(markedRows(widget->getSelectedListView()), rows);
+}
+
 void TestMultiItemSelectionWidget::upAndDownNeitherReportNorSort()
 {
     // Sorted by itself, so that any sorting would undo the move.
@@ -1347,6 +1369,9 @@ void TestMultiItemSelectionWidget::movingInOneStepEqualsOneByOne()
                 widget->setManualOrdering(leftList);
             } else if (operation == 2) {
                 button(*widget, leftList ? ">>" : "<<")->click();
+            } else if (operation == 3) {
+                mark(view, rows);
+                button(*widget, keepCurrent ? "▲" : "▼")->click();
             } else {
                 mark(view, rows);
                 if (keepCurrent && view->model()->rowCount() > 0) {

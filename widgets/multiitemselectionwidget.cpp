@@ -17,6 +17,9 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <numeric>
+#include <typeinfo>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -125,6 +128,18 @@ public:
             removeRows(0, count);
         }
         Q_EMIT layoutChanged({}, VerticalSortHint);
+    }
+
+    /// Moves each of `rows`, none of which is the first or last one it would move beyond, by one.
+    /// They come in the direction of the move. For plain lists only.
+    void moveByOne(const Rows& rows, bool up)
+    {
+        Rows order(static_cast<size_t>(rowCount()));
+        std::iota(order.begin(), order.end(), 0);
+        for (const int row : rows) {
+            std::swap(order[size_t(row)], order[size_t(up ? row - 1 : row + 1)]);
+        }
+        reorder(order);
     }
 };
 
@@ -576,20 +591,33 @@ void MultiItemSelectionWidget::moveMarkedItems(bool up)
     if (marked.constFirst().row() == end) {
         return;
     }
-    const QList<QPersistentModelIndex> moving(marked.cbegin(), marked.cend());
     Items items;
-    for (const QPersistentModelIndex& index : moving) {
-        items.append(m_selectedModel->item(index.row()));
-        moveItem(index.row(), up);
-    }
     Rows rows;
+    for (const QModelIndex& index : std::as_const(marked)) {
+        items.append(m_selectedModel->item(index.row()));
+        rows.push_back(index.row());
+    }
+    // Nothing is marked or current while the rows move: each time the current one goes, the whole
+    // list would be laid out to show its neighbour.
+    selection->clear();
+    auto* list = static_cast<ListModel*>(m_selectedModel);
+    // A subclass may have a moveItem() of its own, which must see each row move.
+    if (rows.size() > 1 && typeid(*this) == typeid(MultiItemSelectionWidget)
+        && list->isPlainList()) {
+        list->moveByOne(rows, up);
+    } else {
+        for (size_t i = 0; i < rows.size(); ++i) {
+            const QStandardItem* item = items.at(qsizetype(i));
+            moveItem(item != nullptr ? item->row() : rows[i], up);
+        }
+    }
+    rows.clear();
     for (const QStandardItem* item : std::as_const(items)) {
         if (item != nullptr) {
             rows.push_back(item->row());
         }
     }
     std::sort(rows.begin(), rows.end());
-    selection->clear();
     selection->select(selectionOfRows(*m_selectedModel, rows),
                       QItemSelectionModel::Select | QItemSelectionModel::Current);
     // The first of them would otherwise leave the visible part of the list in a few taps.
