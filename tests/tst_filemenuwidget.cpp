@@ -31,6 +31,8 @@ private Q_SLOTS:
     void aTapOnAnItemLeavesThePanelAlone();
     void theKeyboardReachesAnItemWhichIsKnownWhenTheLossIsReported();
     void isGreyInAnOrangeFrame();
+    void theFrameFollowsTheObjectName();
+    void aSheetOfTheApplicationStaysWhenTheObjectNameChanges();
 };
 
 void TestFileMenuWidget::isANamedFrame()
@@ -207,6 +209,26 @@ void TestFileMenuWidget::isGreyInAnOrangeFrame()
     QCOMPARE(picture.pixelColor(50, 0), QColor(0xfd, 0x78, 0x00));
     QCOMPARE(picture.pixelColor(50, 79), QColor(0xfd, 0x78, 0x00));
     QCOMPARE(picture.pixelColor(50, 40), QColor(0xf2, 0xf2, 0xf2));
+}
+
+void TestFileMenuWidget::theFrameFollowsTheObjectName()
+{
+    FileMenuWidget menu;
+    menu.setObjectName(QStringLiteral("pages"));
+    menu.setObjectName(QStringLiteral("layers"));
+    QCOMPARE(menu.styleSheet(),
+             QStringLiteral("#layers { background-color: #f2f2f2; border: 1px solid #fd7800; } "));
+    // No selector could name it.
+    menu.setObjectName(QString());
+    QVERIFY(menu.styleSheet().startsWith(QStringLiteral("#layers {")));
+}
+
+void TestFileMenuWidget::aSheetOfTheApplicationStaysWhenTheObjectNameChanges()
+{
+    FileMenuWidget menu;
+    menu.setStyleSheet(QStringLiteral("QFrame { background-color: white; }"));
+    menu.setObjectName(QStringLiteral("pages"));
+    QCOMPARE(menu.styleSheet(), QStringLiteral("QFrame { background-color: white; }"));
 }
 
 UW_TEST_MAIN(TestFileMenuWidget)

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void theButtonShowsAndHidesTheContent();
     void togglingTwiceReturnsReplacedContentToItsFirstVisibility();
     void aTapTogglesAndADragDoesNot();
+    void expandingItIsLikeATapOnTheButton();
     void withoutContentThereIsOnlyTheButtonRow();
     void contentGivenLaterIsHidden();
     void contentGivenWhileTheButtonIsCheckedStaysVisible();
@@ -203,6 +204,25 @@ void TestOxCollapsibleWidgetContainer::aTapTogglesAndADragDoesNot()
     finger.tap(buttonOf(section));
     QVERIFY(buttonOf(section)->isChecked());
     QCOMPARE(pressed.count(), 1);
+}
+
+void TestOxCollapsibleWidgetContainer::expandingItIsLikeATapOnTheButton()
+{
+    auto* content = new QLabel(QStringLiteral("Content"));
+    OxCollapsibleWidgetContainer section(content, title());
+    section.show();
+    QSignalSpy pressed(&section, &OxCollapsibleWidgetContainer::collapseButtonPressed);
+    section.setExpanded(false); // the button is unchecked already, and the content stays visible
+    QVERIFY(content->isVisible());
+    QCOMPARE(pressed.count(), 0);
+    section.setExpanded(true);
+    QVERIFY(buttonOf(section)->isChecked());
+    QVERIFY(content->isVisible());
+    section.setExpanded(false);
+    QVERIFY(!content->isVisible());
+    QCOMPARE(pressed.count(), 2);
+    buttonOf(section)->toggle();
+    QVERIFY(section.isExpanded());
 }
 
 void TestOxCollapsibleWidgetContainer::withoutContentThereIsOnlyTheButtonRow()

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void theSearchFieldHasItsWindowIcon();
     void everyTextIsTranslatedWithItsComment();
     void canBeMadeWithAParentAlone();
+    void readsTheLibraryThatItIsGiven();
+    void withoutAPathItNeverReadsAnything();
     void aLongNameShowsItsBeginningAndDoesNotWidenTheMenu();
 
     void offersTheGivenNamesThenTheCategoriesThenAll();
@@ -248,6 +250,29 @@ void TestSymbolsMenu::canBeMadeWithAParentAlone()
     const SymbolsMenu menu(&parent);
     QCOMPARE(menu.parentWidget(), &parent);
     QCOMPARE(menu.findChild<ClickableComboBox*>()->count(), subject.categories->count());
+}
+
+void TestSymbolsMenu::readsTheLibraryThatItIsGiven()
+{
+    const Subject subject;
+    QVERIFY(QDir::setCurrent(QDir::rootPath()));
+    const SymbolsMenu menu({}, subject.database.path(), nullptr);
+    QCOMPARE(menu.findChild<ClickableComboBox*>()->count(), subject.categories->count());
+    const auto* list = menu.findChild<DragScrollListView*>();
+    QCOMPARE(list->model()->rowCount(), subject.list->model()->rowCount());
+}
+
+void TestSymbolsMenu::withoutAPathItNeverReadsAnything()
+{
+    const Subject subject; // its library is in the working directory
+    m_sync.takeStarts();
+    SymbolsMenu menu({ QStringLiteral("Shapes") }, QString(), nullptr);
+    auto* categories = menu.findChild<ClickableComboBox*>();
+    QCOMPARE(categories->count(), 2); // "Shapes" and "All Categories"
+    categories->setCurrentIndex(1);
+    menu.searchUpdate();
+    QCOMPARE(menu.findChild<DragScrollListView*>()->model()->rowCount(), 0);
+    QCOMPARE(m_sync.takeStarts(), 0);
 }
 
 void TestSymbolsMenu::aLongNameShowsItsBeginningAndDoesNotWidenTheMenu()

@@ -60,6 +60,9 @@ private Q_SLOTS:
     void isNamedWithTheSuffixWidget();
     void isHarmlessBeforeItIsInitialized();
     void isBuiltOnceOnly();
+    void aColumnWidthBuildsItOnce();
+    void aPanelOfAFormBuildsItAsWideAsItself();
+    void buttonsAreVisibleForTheirPropertiesInAHiddenContainer();
     void theToolBoxHasNoBarsNoFrameAndASingleStepOf35();
     void theButtonsRepeatAreAsWideAsTheBoxAnd35High();
     void theButtonsAreNamedForAccessibility();
@@ -135,6 +138,49 @@ void TestToolBoxContainer::isBuiltOnceOnly()
     container.initialize(QSize(10, 10), QPoint());
     QCOMPARE(container.getToolBox(), box);
     QCOMPARE(box->maximumWidth(), BoxSize.width());
+}
+
+void TestToolBoxContainer::aColumnWidthBuildsItOnce()
+{
+    ToolBoxContainer container;
+    container.setColumnWidth(0);
+    container.setColumnWidth(-5);
+    QVERIFY(container.getToolBox() == nullptr);
+    QCOMPARE(container.layoutSpacing(), 0);
+    container.setColumnWidth(180);
+    QCOMPARE(container.columnWidth(), 180);
+    QCOMPARE(container.getToolBox()->width(), 180);
+    QCOMPARE(container.layoutSpacing(), 5);
+    container.setColumnWidth(400);
+    QCOMPARE(container.columnWidth(), 180);
+}
+
+void TestToolBoxContainer::aPanelOfAFormBuildsItAsWideAsItself()
+{
+    ToolBoxContainer container;
+    container.addPanel(nullptr);
+    QVERIFY(container.getToolBox() == nullptr);
+    auto* panel = new QPushButton(QStringLiteral("A panel"));
+    container.addPanel(panel);
+    QCOMPARE(container.columnWidth(), panel->sizeHint().width());
+    auto* wider = new QPushButton(QStringLiteral("A panel that is wider than the first one"));
+    container.addPanel(wider);
+    QCOMPARE(container.columnWidth(), panel->sizeHint().width());
+    const QLayout* column = container.getToolBox()->widget()->layout();
+    QCOMPARE(column->indexOf(panel), 0);
+    QCOMPARE(column->indexOf(wider), 1);
+}
+
+void TestToolBoxContainer::buttonsAreVisibleForTheirPropertiesInAHiddenContainer()
+{
+    ToolBoxContainer container;
+    QVERIFY(!container.isAboveButtonVisible());
+    QVERIFY(!container.isBelowButtonVisible());
+    container.initialize(BoxSize, QPoint());
+    container.setAboveButtonVisible(true);
+    container.setBelowButtonVisible(false);
+    QVERIFY(container.isAboveButtonVisible());
+    QVERIFY(!container.isBelowButtonVisible());
 }
 
 void TestToolBoxContainer::theToolBoxHasNoBarsNoFrameAndASingleStepOf35()

@@ -7,6 +7,15 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+QString frame(const QString& objectName)
+{
+    return Look::framedPanel(QLatin1Char('#') + objectName);
+}
+
+} // namespace
+
 FileMenuWidget::FileMenuWidget(QWidget* parent)
     : QFrame(parent)
 {
@@ -15,7 +24,17 @@ FileMenuWidget::FileMenuWidget(QWidget* parent)
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     setLayout(m_layout);
-    setStyleSheet(Look::framedPanel(QStringLiteral("#FileMenuWidget")));
+    setStyleSheet(frame(objectName()));
+
+    // A form gives the panel a name of its own, and must not take the frame away with that. A sheet
+    // of the application's stays as it is.
+    connect(this, &QObject::objectNameChanged, this,
+            [this, framed = objectName()](const QString& name) mutable {
+                if (!name.isEmpty() && styleSheet() == frame(framed)) {
+                    framed = name;
+                    setStyleSheet(frame(framed));
+                }
+            });
 }
 
 void FileMenuWidget::addMenuItem(QWidget* item)

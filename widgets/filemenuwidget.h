@@ -38,7 +38,7 @@ class UTILITYWIDGETS_EXPORT FileMenuWidget : public QFrame
     Q_OBJECT
 
 public:
-    /// An empty panel.
+    /// An empty panel. Its frame follows its object name, as long as its style sheet is its own.
     explicit FileMenuWidget(QWidget* parent = nullptr);
 
     /// Adds `item`, usually a button, below the others. All items share the height equally and

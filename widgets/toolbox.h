@@ -44,9 +44,10 @@ class DragGesture;
 class UTILITYWIDGETS_EXPORT ToolBox : public QScrollArea
 {
     Q_OBJECT
-    // Not for a form, which has no column but a widget with a layout of its own.
+    // Not for a form, which has no column but a widget with a layout of its own. Not "layoutSpacing":
+    // Qt Designer has a property of that name for every container.
     Q_PROPERTY(
-        int layoutSpacing READ layoutSpacing WRITE setLayoutSpacing DESIGNABLE false STORED false)
+        int panelSpacing READ layoutSpacing WRITE setLayoutSpacing DESIGNABLE false STORED false)
 
 public:
     explicit ToolBox(QWidget* parent = nullptr);

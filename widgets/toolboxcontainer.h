@@ -33,7 +33,7 @@ class UTILITYWIDGETS_EXPORT ToolBoxContainer : public QWidget
     Q_OBJECT
     // The first one makes the tool box that the others are about: a form sets them in this order.
     Q_PROPERTY(int columnWidth READ columnWidth WRITE setColumnWidth)
-    Q_PROPERTY(int layoutSpacing READ layoutSpacing WRITE setLayoutSpacing)
+    Q_PROPERTY(int panelSpacing READ layoutSpacing WRITE setLayoutSpacing) // see ToolBox
     // Not for a form: what is scrolled to, and what can be, changes from moment to moment.
     Q_PROPERTY(bool aboveButtonVisible READ isAboveButtonVisible WRITE setAboveButtonVisible
                    DESIGNABLE false STORED false)
