@@ -83,7 +83,6 @@ void TestDesignerEditor::cleanupTestCase()
 {
     m_window.reset();
     m_core.reset();
-    Test::cleanup();
 }
 
 void TestDesignerEditor::cleanup()

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void isBuiltOnceOnly();
     void aColumnWidthBuildsItOnce();
     void aPanelOfAFormBuildsItAsWideAsItself();
+    void theSpacingIsKeptForTheToolBoxToCome();
     void buttonsAreVisibleForTheirPropertiesInAHiddenContainer();
     void theToolBoxHasNoBarsNoFrameAndASingleStepOf35();
     void theButtonsRepeatAreAsWideAsTheBoxAnd35High();
@@ -146,11 +147,9 @@ void TestToolBoxContainer::aColumnWidthBuildsItOnce()
     container.setColumnWidth(0);
     container.setColumnWidth(-5);
     QVERIFY(container.getToolBox() == nullptr);
-    QCOMPARE(container.layoutSpacing(), 0);
     container.setColumnWidth(180);
     QCOMPARE(container.columnWidth(), 180);
     QCOMPARE(container.getToolBox()->width(), 180);
-    QCOMPARE(container.layoutSpacing(), 5);
     container.setColumnWidth(400);
     QCOMPARE(container.columnWidth(), 180);
 }
@@ -169,6 +168,19 @@ void TestToolBoxContainer::aPanelOfAFormBuildsItAsWideAsItself()
     const QLayout* column = container.getToolBox()->widget()->layout();
     QCOMPARE(column->indexOf(panel), 0);
     QCOMPARE(column->indexOf(wider), 1);
+}
+
+void TestToolBoxContainer::theSpacingIsKeptForTheToolBoxToCome()
+{
+    ToolBoxContainer container;
+    QCOMPARE(container.layoutSpacing(), 5);
+    container.setLayoutSpacing(12);
+    QCOMPARE(container.layoutSpacing(), 12);
+    container.initialize(BoxSize, QPoint());
+    QCOMPARE(container.layoutSpacing(), 12);
+    QCOMPARE(container.getToolBox()->layoutSpacing(), 12);
+    container.getToolBox()->setLayoutSpacing(3);
+    QCOMPARE(container.layoutSpacing(), 3);
 }
 
 void TestToolBoxContainer::buttonsAreVisibleForTheirPropertiesInAHiddenContainer()

@@ -110,12 +110,14 @@ void ToolBoxContainer::setLayoutSpacing(int spacing)
 {
     if (m_toolBox != nullptr) {
         m_toolBox->setLayoutSpacing(spacing);
+    } else {
+        m_spacingToCome = spacing;
     }
 }
 
 int ToolBoxContainer::layoutSpacing() const
 {
-    return m_toolBox != nullptr ? m_toolBox->layoutSpacing() : 0;
+    return m_toolBox != nullptr ? m_toolBox->layoutSpacing() : m_spacingToCome;
 }
 
 void ToolBoxContainer::setAboveButtonVisible(bool visible)
@@ -273,6 +275,7 @@ void ToolBoxContainer::createToolBox(QSize size, QPoint position)
 {
     m_toolBox = new ToolBox;
     m_toolBox->initialize(size, position);
+    m_toolBox->setLayoutSpacing(m_spacingToCome);
     m_toolBox->widget()->setObjectName(QStringLiteral("ToolBoxWidget"));
     m_toolBox->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_toolBox->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -27,11 +27,11 @@ class ToolBox;
  * \endcode
  *
  * Before initialize() there is nothing in it: the operations do nothing and getToolBox() is null.
+ * Only the spacing is kept until then, because a form sets its properties in any order.
  */
 class UTILITYWIDGETS_EXPORT ToolBoxContainer : public QWidget
 {
     Q_OBJECT
-    // The first one makes the tool box that the others are about: a form sets them in this order.
     Q_PROPERTY(int columnWidth READ columnWidth WRITE setColumnWidth)
     Q_PROPERTY(int panelSpacing READ layoutSpacing WRITE setLayoutSpacing) // see ToolBox
     // Not for a form: what is scrolled to, and what can be, changes from moment to moment.
@@ -120,5 +120,6 @@ private:
     QPushButton* m_aboveButton = nullptr;
     ToolBox* m_toolBox = nullptr;
     QPushButton* m_belowButton = nullptr;
+    int m_spacingToCome = 5; // pixels; of the tool box that is not there yet
     bool m_settling = false;
 };
