@@ -54,8 +54,9 @@ QList<QMetaProperty> editableProperties(const QMetaObject& meta)
     static const QSet<QByteArray> ofEveryWidget { "enabled",   "minimumSize",    "toolTip",
                                                   "whatsThis", "accessibleName", "mouseTracking" };
     // These depend on others, and Qt's form builder writes in no order.
-    static const QSet<QByteArray> dependent { "checked",   "currentText", "cursorPosition", "html",
-                                              "inputMask", "markdown",    "sliderPosition" };
+    static const QSet<QByteArray> dependent { "checked",       "currentText", "cursorPosition",
+                                              "documentTitle", "minimum",     "html",
+                                              "inputMask",     "markdown",    "sliderPosition" };
     QList<QMetaProperty> properties;
     for (int i = 0; i < meta.propertyCount(); ++i) {
         const QMetaProperty property = meta.property(i);
@@ -80,7 +81,7 @@ QVariant otherThan(const QVariant& value)
     case QMetaType::Double:
         return value.toDouble() + 1.5;
     case QMetaType::QString:
-        return QStringLiteral("7");
+        return QStringLiteral("word");
     case QMetaType::QStringList:
         return QStringList { QStringLiteral("red"), QStringLiteral("blue") };
     case QMetaType::QColor:

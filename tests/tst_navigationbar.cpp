@@ -230,6 +230,7 @@ private Q_SLOTS:
     void zoomAndCloseSheetsAreExact();
     void placeholdersKeepThePlaceOfTheArrows();
     void everyControlHasAnAccessibleName();
+    void isBarEnabledTellsOfTheBarsOwnSwitchAlone();
     void textsCarryTheirComments();
     void startsWithOneRecordAndNoArrows();
     void barsLayoutIsExact();
@@ -1184,6 +1185,16 @@ void TestNavigationBar::theValidatorDiesWithTheBar()
     QVERIFY(validator != nullptr);
     bar.reset();
     QVERIFY(validator == nullptr);
+}
+
+void TestNavigationBar::isBarEnabledTellsOfTheBarsOwnSwitchAlone()
+{
+    NavigationBar bar;
+    bar.setEnabled(false);
+    QVERIFY(bar.isBarEnabled());
+    bar.setBarEnabled(false);
+    bar.setEnabled(true);
+    QVERIFY(!bar.isBarEnabled());
 }
 
 UW_TEST_MAIN(TestNavigationBar)
