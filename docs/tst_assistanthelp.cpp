@@ -73,7 +73,8 @@ void TestAssistantHelp::everyClassIsFoundByItsName()
 void TestAssistantHelp::everyGuideIsInIt()
 {
     const QString index = QString::fromUtf8(m_engine.fileData(page(QStringLiteral("index.html"))));
-    static const QRegularExpression link(QStringLiteral("href=\"(page_(?!\\w+_protocol)[^\"#]+)\""));
+    static const QRegularExpression link(
+        QStringLiteral("href=\"(page_(?!\\w+_protocol)[^\"#]+)\""));
     QSet<QString> guides;
     QRegularExpressionMatchIterator links = link.globalMatch(index);
     while (links.hasNext()) {

@@ -79,11 +79,12 @@ QPixmap stagePicture(GalleryWindow* window)
         return {};
     }
     // What lies around the stage in the window belongs to other parts of the page.
-    QPixmap sheet(used.size() + 2 * QSize(StageMargin, StageMargin));
+    const QPixmap shown = window->grab({ stage->mapTo(window, used.topLeft()), used.size() });
+    const qreal scale = shown.devicePixelRatio();
+    QPixmap sheet((used.size() + 2 * QSize(StageMargin, StageMargin)) * scale);
+    sheet.setDevicePixelRatio(scale);
     sheet.fill(QColor(QStringLiteral(LOOK_PANEL_GREY)));
-    QPainter(&sheet).drawPixmap(
-        StageMargin, StageMargin,
-        window->grab({ stage->mapTo(window, used.topLeft()), used.size() }));
+    QPainter(&sheet).drawPixmap(StageMargin, StageMargin, shown);
     return sheet;
 }
 
@@ -97,7 +98,10 @@ QPixmap frontPicture(GalleryWindow* window)
             front |= widget->geometry().translated(-window->pos());
         }
     }
-    return picture(window).copy(front & window->rect());
+    front &= window->rect();
+    const QPixmap screen = picture(window);
+    const qreal scale = screen.devicePixelRatio();
+    return screen.copy({ (QPointF(front.topLeft()) * scale).toPoint(), front.size() * scale });
 }
 
 /// Makes the window as high as the page's stage asks for, so that nothing of it is scrolled away.

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void theTourShowsTranslucentWindowsAsAPersonSeesThem();
     void theTourReportsAFolderItCannotMake();
     void theListNamesEveryPictureOfTheTour();
+    void thePicturesShowWhatAPageShowsAlone();
 
     void theFileDialogsSpareAFolderThatIsThere();
     void theFileDialogsLeaveNothingBehind();
@@ -286,6 +287,37 @@ void TestGallery::theListNamesEveryPictureOfTheTour()
         names.append(line.section(QLatin1Char('\t'), 1, 1));
     }
     QCOMPARE(names, pictureNames());
+}
+
+/// Every page has one of its stage or, where that is empty, of its dialogs.
+void TestGallery::thePicturesShowWhatAPageShowsAlone()
+{
+    const QTemporaryDir folder;
+    QVERIFY(Gallery::takePictures(folder.path()));
+    const auto picture = [&](const QString& name) {
+        return QImage(folder.filePath(name + QStringLiteral(".png")));
+    };
+    const QList<Gallery::Page> pages = allPages();
+    for (const Gallery::Page& page : pages) {
+        QVERIFY2(!picture(page.id).isNull() || !page.dialogs.isEmpty(), qPrintable(page.id));
+        for (const Gallery::DialogState& state : page.dialogs) {
+            const QString name = page.id + QLatin1Char('-') + state.id;
+            QVERIFY2(!isBlank(picture(name)), qPrintable(name));
+        }
+    }
+
+    // Of a dialog, its frame is the edge; of a page, there is a margin around the stage.
+    const QImage about = picture(QStringLiteral("OxInfoWidget-about"));
+    QCOMPARE(about.size(), QSize(360, 300));
+    QCOMPARE(about.pixelColor(0, 150), QColor(0xfd, 0x78, 0x00));
+    QVERIFY(picture(QStringLiteral("OxInfoWidget")).isNull());
+    const QImage bars = picture(QStringLiteral("ContainerTitleBar"));
+    QVERIFY(bars.width() < ScreenWidth && bars.height() < ScreenHeight);
+    for (int x = 0; x < bars.width(); ++x) {
+        QCOMPARE(bars.pixelColor(x, 0), QColor(0xf2, 0xf2, 0xf2));
+    }
+    // What does not fit on the page is there as well.
+    QVERIFY(picture(QStringLiteral("MultiItemSelectionWidget")).height() > ScreenHeight);
 }
 
 /// They show a folder of samples in the folder for temporary files, by a name that others may have

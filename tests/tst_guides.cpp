@@ -4,12 +4,14 @@
 // The code of the guides does what they say.
 
 #include "docs/snippets/form.h"
+#include "docs/snippets/formpage.h"
 #include "docs/snippets/launch.h"
 #include "docs/snippets/look.h"
 #include "docs/snippets/mounts.h"
 #include "docs/snippets/platform.h"
 #include "docs/snippets/symbols.h"
 #include "docs/snippets/touch.h"
+#include "docs/snippets/translating.h"
 
 #include "applicationfont.h"
 #include "containertitlebar.h"
@@ -19,8 +21,10 @@
 #include "oxlineedit.h"
 #include "oxmessagebox.h"
 #include "oxspinbox.h"
+#include "oxtranslation.h"
 #include "oxtransparentcontainer.h"
 #include "sharedconstants.h"
+#include "support/everythingtranslated.h"
 #include "support/filedialoguser.h"
 #include "support/finger.h"
 #include "support/modaldialog.h"
@@ -76,6 +80,10 @@ private Q_SLOTS:
     void aTappedManualIsLaunched();
     void onlyManualsAreLaunched_data();
     void onlyManualsAreLaunched();
+
+    void theFormsFieldIsStoredWhenItIsLeft();
+    void thePersonsLanguageIsSpoken();
+    void aChangeOfLanguageReachesThePage();
 
     void fontsHaveTheDevicesSizes();
     void theLogIsCollected();
@@ -486,6 +494,50 @@ void TestGuides::onlyManualsAreLaunched()
     QTRY_VERIFY(!requested.isEmpty());
     QCOMPARE(requested.count(), 1); // that of the manual, which came last
     QCOMPARE(requested.constFirst().constFirst().toString(), manual);
+}
+
+void TestGuides::theFormsFieldIsStoredWhenItIsLeft()
+{
+    FormPage page;
+    showActive(&page);
+    QVERIFY(page.findChild<ContainerTitleBar*>() != nullptr);
+    auto* name = page.findChild<OxLineEdit*>();
+    name->setFocus();
+    QTest::keyClicks(name, QStringLiteral("Sky"));
+    name->clearFocus();
+    QCOMPARE(page.name(), QStringLiteral("Sky"));
+}
+
+void TestGuides::thePersonsLanguageIsSpoken()
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    installPersonsLanguage();
+    ContainerTitleBar bar;
+    const QString name = bar.findChild<QPushButton*>()->accessibleName();
+    QCOMPARE(name, TRANSLATED ? QStringLiteral("Schließen") : QStringLiteral("Close"));
+    QLocale::setDefault(QLocale::c());
+    OxTranslation::install(QLocale(QLocale::English));
+}
+
+void TestGuides::aChangeOfLanguageReachesThePage()
+{
+    SettingsPage page;
+    ContainerTitleBar bar;
+    const auto* close = bar.findChild<QPushButton*>();
+    QCOMPARE(page.label()->text(), QStringLiteral("Language"));
+
+    page.setLanguage(QStringLiteral("de"));
+    QCOMPARE(QLocale().language(), QLocale::German);
+    QTRY_COMPARE(close->accessibleName(),
+                 TRANSLATED ? QStringLiteral("Schließen") : QStringLiteral("Close"));
+    {
+        const EverythingTranslated application;
+        QTRY_COMPARE(page.label()->text(), EverythingTranslated::text());
+    }
+    page.setLanguage(QStringLiteral("en"));
+    QTRY_COMPARE(close->accessibleName(), QStringLiteral("Close"));
+    QTRY_COMPARE(page.label()->text(), QStringLiteral("Language"));
+    QLocale::setDefault(QLocale::c());
 }
 
 void TestGuides::fontsHaveTheDevicesSizes()
