@@ -23,6 +23,9 @@ import sys
 # Where a page's stage is not what shows the class best: the dialog that does.
 BEST = {"NavigationBar": "whole", "SymbolDatabaseWidget": "insert"}
 
+# Pictures on the main page are cut to this height, in pixels; style.css has it as well.
+CARD_HEIGHT = 130
+
 
 class Page:
     """A page of the gallery: the line of its own in the list, and those of its dialogs."""
@@ -75,7 +78,11 @@ def bottom(page):
                          "Its page in the gallery, with the code that makes it.", "768")
 
 
-def classes_by_family(pages):
+def height(png):
+    return int.from_bytes(png.read_bytes()[20:24], "big")
+
+
+def classes_by_family(pages, pictures):
     text = "\n## Classes by family\n\n"
     families = dict.fromkeys(page.family for page in pages)
     for family in families:
@@ -83,8 +90,9 @@ def classes_by_family(pages):
         for page in pages:
             if page.family == family:
                 file, alternative = page.best
+                low = ' class="low"' if height(pictures / file) < CARD_HEIGHT else ""
                 text += (f'<a class="card" href="class{page.name}.html">'
-                         f'<span class="picture"><img src="{file}"'
+                         f'<span class="picture"><img{low} src="{file}"'
                          f' alt="{html.escape(alternative)}"/></span>'
                          f"<b>{page.name}</b><span>{html.escape(page.summary)}</span></a>\n")
         text += "</div>\n\\endhtmlonly\n\n"
@@ -115,7 +123,8 @@ def main():
     below = "".join(f"/*! \\class {page.name}\n\n{bottom(page)}*/\n" for page in shown)
     (output / "bottom.dox").write_text(below, encoding="utf-8")
     index = pathlib.Path(main_page).read_text(encoding="utf-8")
-    (output / "index.md").write_text(index + classes_by_family(shown), encoding="utf-8")
+    (output / "index.md").write_text(index + classes_by_family(shown, pictures),
+                                     encoding="utf-8")
     # What the guides show, and the gallery did not take just now under the same name.
     taken = {file.name: file for file in pathlib.Path(main_page).parent.glob("images/*.png")}
     taken.update((file.name, file) for file in pictures.glob("*.png"))

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 class MainWindow : public QWidget
@@ -51,9 +52,10 @@ public:
 private:
     void greet()
     {
-        OxMessageBox::information(
-            this, tr("GREETING", "Title of a message."),
-            tr("Hello, %1.", "A greeting.").arg(m_name->text().toHtmlEscaped()));
+        // Never markup, whatever was typed.
+        const QString text = Qt::convertFromPlainText(
+            tr("Hello, %1.", "A greeting.").arg(m_name->text()), Qt::WhiteSpaceNormal);
+        OxMessageBox::information(this, tr("GREETING", "Title of a message."), text);
     }
 
     OxLineEdit* m_name = nullptr;
