@@ -51,6 +51,7 @@ private Q_SLOTS:
     void theTourReportsAFolderItCannotMake();
     void theListNamesEveryPictureOfTheTour();
     void thePicturesShowWhatAPageShowsAlone();
+    void aLanguageThatTheLibraryDoesNotSpeakIsReported();
 
     void theFileDialogsSpareAFolderThatIsThere();
     void theFileDialogsLeaveNothingBehind();
@@ -272,6 +273,19 @@ void TestGallery::theTourReportsAFolderItCannotMake()
     QFile file(folder.filePath(QStringLiteral("file")));
     QVERIFY(file.open(QFile::WriteOnly));
     QVERIFY(!Gallery::takeTour(file.fileName() + QStringLiteral("/tour")));
+}
+
+void TestGallery::aLanguageThatTheLibraryDoesNotSpeakIsReported()
+{
+    const QTemporaryDir folder;
+    QProcess gallery;
+    gallery.start(QStringLiteral(UTILITYWIDGETS_GALLERY),
+                  { QStringLiteral("--language"), QStringLiteral("pl"), QStringLiteral("--tour"),
+                    folder.path() });
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.exitCode(), 1);
+    QVERIFY(gallery.readAllStandardError().contains("no translation for pl\n"));
+    QCOMPARE(QDir(folder.path()).count(), uint(2)); // "." and ".."
 }
 
 void TestGallery::theListNamesEveryPictureOfTheTour()

@@ -341,6 +341,7 @@ private Q_SLOTS:
     void modelsBelongToTheWidget();
     void layoutIsExact();
     void textsAreTranslatedButArrowsAreNot();
+    void arrowsPointTheOtherWayFromRightToLeft();
     void startsWithoutLimitAndSorted();
     void rowComparesOrderByRow();
 
@@ -526,6 +527,28 @@ void TestMultiItemSelectionWidget::layoutIsExact()
     QCOMPARE(texts,
              (QStringList { QStringLiteral(">"), QStringLiteral("<"), QStringLiteral(">>"),
                             QStringLiteral("<<"), QStringLiteral("▲"), QStringLiteral("▼") }));
+}
+
+void TestMultiItemSelectionWidget::arrowsPointTheOtherWayFromRightToLeft()
+{
+    MultiItemSelectionWidget widget;
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    const auto picture = [&](const char* text) {
+        return button(widget, text)->grab().toImage();
+    };
+    const QImage add = picture(">");
+    const QImage addAll = picture(">>");
+    const QImage remove = picture("<");
+    const QImage removeAll = picture("<<");
+    QVERIFY(add != remove);
+    widget.setLayoutDirection(Qt::RightToLeft);
+    widget.layout()->activate();
+    QVERIFY(widget.getAvailableListView()->x() > widget.getSelectedListView()->x());
+    QCOMPARE(picture(">"), remove);
+    QCOMPARE(picture(">>"), removeAll);
+    QCOMPARE(picture("<"), add);
+    QCOMPARE(picture("<<"), addAll);
 }
 
 void TestMultiItemSelectionWidget::textsAreTranslatedButArrowsAreNot()
