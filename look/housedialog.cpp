@@ -9,8 +9,64 @@
 
 #include <QAbstractButton>
 #include <QDialog>
+#include <QEvent>
 #include <QIcon>
 #include <QLabel>
+#include <QScreen>
+
+namespace {
+
+/// Where a dialog without a frame stands when nobody has moved it: in the middle of its parent's
+/// window, or of the screen, and all of it on the screen. QDialog reckons with a frame and puts it
+/// ten pixels to the left and forty above. A child of the dialog.
+class Centring : public QObject
+{
+public:
+    explicit Centring(QDialog* dialog)
+        : QObject(dialog)
+    {
+        dialog->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* dialog = static_cast<QDialog*>(watched);
+        if (event->type() == QEvent::Show && !event->spontaneous() && isWanted(*dialog)) {
+            centre(dialog); // which makes QDialog leave it there
+            m_isCentred = true;
+        } else if (event->type() == QEvent::Hide && !event->spontaneous() && m_isCentred) {
+            dialog->setAttribute(Qt::WA_Moved, false); // next time anew: its size may change
+            m_isCentred = false;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static bool isWanted(const QDialog& dialog)
+    {
+        return dialog.isWindow() && dialog.windowFlags().testFlag(Qt::FramelessWindowHint)
+            && !dialog.testAttribute(Qt::WA_Moved);
+    }
+
+    static void centre(QDialog* dialog)
+    {
+        const QWidget* behind =
+            dialog->parentWidget() != nullptr ? dialog->parentWidget()->window() : nullptr;
+        const QRect screen =
+            (behind != nullptr ? behind->screen() : dialog->screen())->availableGeometry();
+        QRect place(QPoint(), dialog->size());
+        place.moveCenter(behind != nullptr ? behind->geometry().center() : screen.center());
+        place.moveRight(qMin(place.right(), screen.right()));
+        place.moveBottom(qMin(place.bottom(), screen.bottom()));
+        place.moveLeft(qMax(place.left(), screen.left()));
+        place.moveTop(qMax(place.top(), screen.top()));
+        dialog->move(place.topLeft());
+    }
+
+    bool m_isCentred = false;
+};
+
+} // namespace
 
 void Look::prepareHouseDialog(QDialog* dialog)
 {
@@ -18,6 +74,7 @@ void Look::prepareHouseDialog(QDialog* dialog)
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     dialog->setWindowIcon(icon(QStringLiteral(LOOK_IMAGE_APPLICATION)));
     dialog->setWindowTitle(QStringLiteral("Sigilant PRO"));
+    new Centring(dialog);
 }
 
 void Look::alignToLineStart(QLabel* label)

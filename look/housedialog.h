@@ -12,7 +12,9 @@ namespace Look {
 /*!
  * Gives `dialog` what every dialog of the house has: the window icon, the window title (which is
  * the product's name and therefore not translated), and a life that ends neither by being closed
- * nor with the last window: dialogs live on the stack of a static helper or are shown again.
+ * nor with the last window: dialogs live on the stack of a static helper or are shown again. One
+ * without a frame that nobody has moved is shown in the middle of its parent's window, or of the
+ * screen if it has none.
  */
 void prepareHouseDialog(QDialog* dialog);
 

@@ -8,15 +8,17 @@
 #include "oxtitlebar.h"
 
 #include "look/icons.h"
-#include "look/images.h"
+#include "look/imagetable.h"
 #include "support/test.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QIcon>
 #include <QIconEngine>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QtMath>
 
 /// Pictures on screens that show a logical pixel with one, one and a half or two of their own: the
@@ -27,6 +29,12 @@ class TestFineScreen : public Test
 
 private Q_SLOTS:
     void aPictureHasThePixelsOfTheScreen();
+    void everyImageHasThePixelsOfTheScreen_data();
+    void everyImageHasThePixelsOfTheScreen();
+    void aSheetShowsTheImageWithThePixelsOfTheScreen();
+    void anImageIsFaintWhereItIsDisabled();
+    void anImageOfAListKeepsItsColoursWhereItIsSelected();
+    void othersImagesAreLeftToTheToolkit();
     void anIconOfAnOddSizeHasThePixelsOfTheScreen();
     void theIconOfATitleBarHasThePixelsOfTheScreen();
     void theCloseButtonHasThePixelsOfTheScreen();
@@ -121,6 +129,71 @@ void TestFineScreen::aPictureHasThePixelsOfTheScreen()
     QCOMPARE(picture.size(), InformationSize * ratio());
     QCOMPARE(picture.devicePixelRatio(), ratio());
     QCOMPARE(Look::picture(informationImage(), 1).size(), InformationSize);
+}
+
+void TestFineScreen::everyImageHasThePixelsOfTheScreen_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+    for (const Look::Image& image : Look::images) {
+        QTest::newRow(image.macro)
+            << QString::fromLatin1(image.path) << QSize(image.width, image.height);
+    }
+}
+
+/// As buttons and style sheets ask for it.
+void TestFineScreen::everyImageHasThePixelsOfTheScreen()
+{
+    QFETCH(const QString, path);
+    QFETCH(const QSize, size);
+    const QIcon icon(path);
+    const QPixmap picture = icon.pixmap(size, ratio());
+    QCOMPARE(picture.size(), size * ratio());
+    QCOMPARE(picture.devicePixelRatio(), ratio());
+    QCOMPARE(icon.actualSize(size), size);
+}
+
+void TestFineScreen::aSheetShowsTheImageWithThePixelsOfTheScreen()
+{
+    QCheckBox box;
+    box.setStyleSheet(QStringLiteral("QCheckBox { background: #f2f2f2; spacing: 0px; }"
+                                     "QCheckBox::indicator { width: 16px; height: 16px; }"
+                                     "QCheckBox::indicator:unchecked { image: url(%1); }")
+                          .arg(QStringLiteral(LOOK_IMAGE_ARROW_DOWN)));
+    box.setFixedSize(16, 16); // whole pixels at each scale
+    const QImage shown = painted(&box).convertToFormat(QImage::Format_RGB32);
+
+    QImage expected(shown.size(), QImage::Format_RGB32);
+    expected.setDevicePixelRatio(ratio());
+    expected.fill(QColor(0xf2, 0xf2, 0xf2));
+    QPainter(&expected).drawPixmap(0, 0,
+                                   Look::picture(QStringLiteral(LOOK_IMAGE_ARROW_DOWN), ratio()));
+    QCOMPARE(shown, expected);
+}
+
+void TestFineScreen::anImageIsFaintWhereItIsDisabled()
+{
+    const QIcon icon(informationImage());
+    const QPixmap disabled = icon.pixmap(InformationSize, ratio(), QIcon::Disabled);
+    QCOMPARE(disabled.size(), InformationSize * ratio());
+    QVERIFY(disabled.toImage() != icon.pixmap(InformationSize, ratio()).toImage());
+}
+
+void TestFineScreen::anImageOfAListKeepsItsColoursWhereItIsSelected()
+{
+    const QIcon icon = Look::listIcon(informationImage());
+    const QPixmap selected = icon.pixmap(InformationSize, ratio(), QIcon::Selected);
+    QCOMPARE(selected.toImage(), icon.pixmap(InformationSize, ratio()).toImage());
+}
+
+void TestFineScreen::othersImagesAreLeftToTheToolkit()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    QPixmap picture(29, 28);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(path));
+    QCOMPARE(QIcon(path).pixmap(InformationSize, ratio()).size(), QSize(29, 28));
 }
 
 void TestFineScreen::anIconOfAnOddSizeHasThePixelsOfTheScreen()

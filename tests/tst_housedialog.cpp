@@ -11,6 +11,20 @@
 #include <QPixmap>
 #include <QPointer>
 
+namespace {
+
+class HouseDialog : public QDialog
+{
+public:
+    explicit HouseDialog(QWidget* parent = nullptr)
+        : QDialog(parent, Qt::FramelessWindowHint)
+    {
+        Look::prepareHouseDialog(this);
+    }
+};
+
+} // namespace
+
 class TestHouseDialog : public Test
 {
     Q_OBJECT
@@ -23,6 +37,13 @@ private Q_SLOTS:
     void windowTitleIsNotTranslated();
     void leavesTheRestOfTheDialogAlone();
     void messageBoxIsAHouseDialog();
+
+    void standsInTheMiddleOfTheScreen();
+    void standsInTheMiddleOfItsParentsWindow();
+    void standsOnTheScreenAsAWhole();
+    void staysWhereItWasMoved();
+    void isCentredAnewWhenItIsShownAgain();
+    void aFrameIsReckonedWithAsByTheToolkit();
 };
 
 void TestHouseDialog::closingDoesNotDeleteTheDialog()
@@ -91,6 +112,82 @@ void TestHouseDialog::messageBoxIsAHouseDialog()
     const OxMessageBox box;
     QCOMPARE(box.windowTitle(), dialog.windowTitle());
     QCOMPARE(box.windowIcon().pixmap(32).toImage(), dialog.windowIcon().pixmap(32).toImage());
+}
+
+void TestHouseDialog::standsInTheMiddleOfTheScreen()
+{
+    for (const QSize& size : { QSize(300, 200), QSize(301, 199) }) {
+        HouseDialog dialog;
+        dialog.resize(size);
+        dialog.show();
+        QCOMPARE(dialog.geometry().center(), dialog.screen()->availableGeometry().center());
+        QCOMPARE(dialog.size(), size);
+    }
+}
+
+void TestHouseDialog::standsInTheMiddleOfItsParentsWindow()
+{
+    QWidget window;
+    window.setGeometry(100, 50, 500, 400);
+    QWidget child(&window);
+    child.setGeometry(10, 10, 20, 20);
+    window.show();
+    HouseDialog dialog(&child);
+    dialog.resize(300, 200);
+    dialog.show();
+    QCOMPARE(dialog.geometry().center(), window.geometry().center());
+}
+
+void TestHouseDialog::standsOnTheScreenAsAWhole()
+{
+    QWidget window;
+    window.setGeometry(0, 0, 40, 30);
+    window.show();
+    HouseDialog dialog(&window);
+    dialog.resize(300, 200);
+    dialog.show();
+    QCOMPARE(dialog.pos(), window.screen()->availableGeometry().topLeft());
+    dialog.hide();
+
+    // What is larger than the screen shows its title bar.
+    dialog.resize(dialog.screen()->size() + QSize(20, 20));
+    dialog.show();
+    QCOMPARE(dialog.pos(), window.screen()->availableGeometry().topLeft());
+}
+
+void TestHouseDialog::staysWhereItWasMoved()
+{
+    HouseDialog dialog;
+    dialog.resize(300, 200);
+    dialog.move(20, 30);
+    for (int times = 0; times < 2; ++times) {
+        dialog.show();
+        QCOMPARE(dialog.pos(), QPoint(20, 30));
+        dialog.hide();
+    }
+}
+
+void TestHouseDialog::isCentredAnewWhenItIsShownAgain()
+{
+    HouseDialog dialog;
+    dialog.resize(300, 200);
+    dialog.show();
+    dialog.hide();
+    dialog.resize(100, 100);
+    dialog.show();
+    QCOMPARE(dialog.geometry().center(), dialog.screen()->availableGeometry().center());
+}
+
+void TestHouseDialog::aFrameIsReckonedWithAsByTheToolkit()
+{
+    QDialog plain;
+    plain.resize(300, 200);
+    plain.show();
+    QDialog dialog;
+    Look::prepareHouseDialog(&dialog);
+    dialog.resize(300, 200);
+    dialog.show();
+    QCOMPARE(dialog.pos(), plain.pos());
 }
 
 UW_TEST_MAIN(TestHouseDialog)

@@ -13,6 +13,8 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
@@ -60,9 +62,32 @@ OxTitleBar* titleBar(const OxMessageBox* box)
     return box->findChild<OxTitleBar*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
+/// The area in which a text scrolls; null if it does not.
+QScrollArea* scrollArea(const OxMessageBox* box)
+{
+    return box->findChild<QScrollArea*>();
+}
+
 QLabel* textLabel(const OxMessageBox* box)
 {
-    return box->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    const QScrollArea* area = scrollArea(box);
+    return area != nullptr ? qobject_cast<QLabel*>(area->widget())
+                           : box->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+QString linesOf(int count)
+{
+    return QStringList(count, QStringLiteral("One of many lines")).join(QLatin1Char('\n'));
+}
+
+QString linesAsWideAsTheScreen(int count)
+{
+    QString line;
+    const QFontMetrics metrics((QLabel().font()));
+    while (metrics.horizontalAdvance(line + QLatin1String(" word")) < ScreenWidth - 2 * 12) {
+        line += QLatin1String(" word");
+    }
+    return QStringList(count, line).join(QLatin1Char('\n'));
 }
 
 QDialogButtonBox* buttonBox(const OxMessageBox* box)
@@ -248,6 +273,12 @@ private Q_SLOTS:
     void textWiderThanTheScreenIsWrapped();
     void wrappedTextIsShownToItsLastLine_data();
     void wrappedTextIsShownToItsLastLine();
+    void textThatFitsTheScreenDoesNotScroll();
+    void textHigherThanTheScreenScrolls_data();
+    void textHigherThanTheScreenScrolls();
+    void scrollingTextFollowsTheFinger_data();
+    void scrollingTextFollowsTheFinger();
+    void scrollingTextFollowsTheKeys();
     void wordsThatFitAreNotTakenApart();
     void boxWithSeveralLinesKeepsThem();
 };
@@ -1177,6 +1208,96 @@ void TestOxMessageBox::wrappedTextIsShownToItsLastLine()
         QVERIFY(label->height() > 2 * label->fontMetrics().height());
         QVERIFY(label->minimumSizeHint().width() <= label->width());
     }
+}
+
+/// The highest text with which a box fits the screen is not taken for one that does not.
+void TestOxMessageBox::textThatFitsTheScreenDoesNotScroll()
+{
+    int lines = 1;
+    for (;; ++lines) {
+        auto next = createBox(QMessageBox::Ok, {}, linesOf(lines + 1));
+        if (scrollArea(next.get()) != nullptr) {
+            break;
+        }
+        QVERIFY(lines < 100);
+    }
+    auto box = createBox(QMessageBox::Ok, {}, linesOf(lines));
+    box->show();
+    const QLabel* label = textLabel(box.get());
+    QCOMPARE(label->parentWidget(), box.get());
+    QCOMPARE(box->layout()->itemAt(1)->widget(), label);
+    QVERIFY(box->height() <= ScreenHeight);
+    QVERIFY(box->height() + label->fontMetrics().height() > ScreenHeight);
+}
+
+void TestOxMessageBox::textHigherThanTheScreenScrolls_data()
+{
+    QTest::addColumn<QString>("highText");
+    QTest::newRow("short lines") << linesOf(60);
+    QTest::newRow("lines as wide as the screen") << linesAsWideAsTheScreen(60);
+    QTest::newRow("lines wider than the screen")
+        << QStringList(20, wordsWiderThanTheScreen()).join(QLatin1Char('\n'));
+    QTest::newRow("rich") << QStringLiteral("<b>line</b><br>").repeated(60);
+}
+
+void TestOxMessageBox::textHigherThanTheScreenScrolls()
+{
+    QFETCH(const QString, highText);
+    auto box = createBox(QMessageBox::Yes | QMessageBox::No, {}, highText);
+    box->show();
+
+    QVERIFY(box->width() <= ScreenWidth);
+    QCOMPARE(box->height(), ScreenHeight);
+    const auto buttons = box->findChildren<QPushButton*>();
+    for (const QPushButton* button : buttons) {
+        QVERIFY(box->rect().contains(QRect(button->mapTo(box.get(), QPoint()), button->size())));
+    }
+    const QLabel* label = textLabel(box.get());
+    const QScrollArea* area = scrollArea(box.get());
+    QVERIFY(area != nullptr);
+    QCOMPARE(area->widget(), label);
+    QVERIFY(label->height() >= label->heightForWidth(label->width()));
+    QCOMPARE(area->verticalScrollBar()->maximum(), label->height() - area->viewport()->height());
+    QCOMPARE(area->viewport()->width(), label->width());
+    QVERIFY(area->verticalScrollBar()->isVisible());
+    QCOMPARE(area->verticalScrollBar()->width(), 35);
+    // The grey of the panel, between the lines.
+    QCOMPARE(box->grab().toImage().pixelColor(area->mapTo(box.get(), QPoint(2, 2))),
+             QColor(0xf2, 0xf2, 0xf2));
+}
+
+void TestOxMessageBox::scrollingTextFollowsTheFinger_data()
+{
+    QTest::addColumn<QString>("highText");
+    QTest::newRow("plain") << linesOf(60);
+    QTest::newRow("rich") << QStringLiteral("<a href='x'>line</a><br>").repeated(60);
+}
+
+void TestOxMessageBox::scrollingTextFollowsTheFinger()
+{
+    QFETCH(const QString, highText);
+    auto box = createBox(QMessageBox::Ok, {}, highText);
+    box->show();
+    const QScrollArea* area = scrollArea(box.get());
+    Finger finger;
+    finger.press(area->viewport());
+    finger.moveBy({ 0, -70 });
+    QCOMPARE(area->verticalScrollBar()->value(), 70);
+    finger.moveBy({ 0, 30 });
+    finger.release();
+    QCOMPARE(area->verticalScrollBar()->value(), 40);
+    QVERIFY(box->isVisible());
+}
+
+void TestOxMessageBox::scrollingTextFollowsTheKeys()
+{
+    auto box = createBox(QMessageBox::Ok, {}, linesOf(60));
+    box->show();
+    QScrollArea* area = scrollArea(box.get());
+    area->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(area, Qt::Key_PageDown);
+    QVERIFY(area->verticalScrollBar()->value() > 0);
+    QVERIFY(box->isVisible());
 }
 
 void TestOxMessageBox::wordsThatFitAreNotTakenApart()

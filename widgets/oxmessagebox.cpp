@@ -9,12 +9,14 @@
 #include "look/styledwidgetpainting.h"
 #include "oxtitlebar.h"
 #include "sharedconstants.h"
+#include "toolbox.h"
 
 #include <QEvent>
 #include <QHash>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTextBoundaryFinder>
 #include <QVBoxLayout>
 
@@ -22,6 +24,9 @@ namespace {
 
 /// Space around the text and around the row of buttons, in pixels.
 constexpr int Margin = 12;
+
+/// Of an area in which a text scrolls, in pixels.
+constexpr int ScrollBarWidth = 35;
 
 /// Invisible, and a place where a line may break.
 constexpr QChar ZeroWidthSpace(0x200b);
@@ -124,6 +129,7 @@ OxMessageBox::OxMessageBox(QMessageBox::Icon /*icon*/, const QString& title, con
     createButtons(buttons, buttonTexts);
     createLayout();
     wrapTextWiderThanScreen();
+    scrollTextHigherThanScreen();
 
     connect(m_buttonBox, &QDialogButtonBox::clicked, this, &OxMessageBox::onButtonClicked);
     connect(m_titleBar, &OxTitleBar::closeButtonClicked, this,
@@ -328,6 +334,42 @@ void OxMessageBox::wrapTextWiderThanScreen()
     m_textLabel->setWordWrap(true);
     // The layout would work out the height for its own width, which a long title makes larger.
     m_textLabel->setFixedSize(WrappedTextWidth, m_textLabel->heightForWidth(WrappedTextWidth));
+}
+
+/// A box that is higher than the screen would have its buttons where no finger reaches them. Only
+/// then the text stands in an area that scrolls.
+void OxMessageBox::scrollTextHigherThanScreen()
+{
+    QSize text = m_textLabel->wordWrap() ? m_textLabel->minimumSize() : m_textLabel->sizeHint();
+    if (text.height() < ScreenHeight / 2) {
+        return; // without asking the whole box, which takes time
+    }
+    const int rest = sizeHint().height() - text.height();
+    if (text.height() + rest <= ScreenHeight) {
+        return;
+    }
+    if (text.width() + ScrollBarWidth > ScreenWidth) {
+        m_textLabel->setWordWrap(true);
+        text.setWidth(ScreenWidth - ScrollBarWidth);
+        text.setHeight(m_textLabel->heightForWidth(text.width()));
+    }
+    m_textLabel->setFixedSize(text);
+
+    auto* area = new ToolBox(this);
+    area->setObjectName(QStringLiteral("MessageBoxText"));
+    area->setStyleSheet(Look::scrollBars(ScrollBarWidth));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::TabFocus); // for those who scroll with keys
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    delete layout()->replaceWidget(m_textLabel, area);
+    layout()->setAlignment(area, Qt::AlignLeft);
+    area->setWidget(m_textLabel);
+    // The grey of the panel shows through.
+    m_textLabel->setAutoFillBackground(false);
+    // A rich text would keep the finger to itself, for the sake of links.
+    m_textLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    area->viewport()->setAutoFillBackground(false);
+    area->setFixedSize(text.width() + ScrollBarWidth, ScreenHeight - rest);
 }
 
 #include "moc_oxmessagebox.cpp"

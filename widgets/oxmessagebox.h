@@ -50,8 +50,9 @@ class QPushButton;
  * confirms a question by accident; it never chooses a default button itself.
  *
  * Texts are plain, or rich where Qt::mightBeRichText() says so: escape names that come from outside
- * with QString::toHtmlEscaped(). A text is wrapped only if it is wider than the screen; there is no
- * scrolling, so keep it to a few lines.
+ * with QString::toHtmlEscaped(). A text is wrapped only if it is wider than the screen, and scrolls
+ * under the finger only if the box would be higher than the screen. Keep it to a few lines all the
+ * same: people do not read more before they tap.
  */
 class UTILITYWIDGETS_EXPORT OxMessageBox : public QDialog
 {
@@ -160,6 +161,7 @@ private:
                        const QMap<QMessageBox::StandardButton, QString>& texts);
     void createLayout();
     void wrapTextWiderThanScreen();
+    void scrollTextHigherThanScreen();
     QPushButton* prepared(QPushButton* button) const;
 
     OxTitleBar* m_titleBar = nullptr;

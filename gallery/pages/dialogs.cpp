@@ -87,6 +87,17 @@ void showLongText()
             + QStringLiteral("/media/usb/designs/2026/spring/banners and posters/").repeated(6));
 }
 
+void showManyLines()
+{
+    QStringList files;
+    for (int number = 1; number <= 40; ++number) {
+        files.append(QStringLiteral("/media/usb/designs/Label %1.lbl").arg(number));
+    }
+    OxMessageBox::warning(window(), QStringLiteral("ERROR"),
+                          QStringLiteral("These files could not be copied:\n")
+                              + files.join(QLatin1Char('\n')));
+}
+
 /// A box that stands on the page like any other widget and comes back once it is answered.
 QWidget* createEmbeddedBox(const QString& text, QMessageBox::StandardButtons buttons)
 {
@@ -120,6 +131,7 @@ QList<DialogState> messageBoxes()
         { QStringLiteral("message"), QStringLiteral("Message"), showMessage },
         { QStringLiteral("own"), QStringLiteral("Own buttons"), showOwnButtons },
         { QStringLiteral("long"), QStringLiteral("Long text"), showLongText },
+        { QStringLiteral("lines"), QStringLiteral("Many lines"), showManyLines },
     };
 }
 
