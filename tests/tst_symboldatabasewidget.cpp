@@ -34,6 +34,7 @@
 #include <QSqlQuery>
 #include <QStandardItemModel>
 #include <QThread>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -124,6 +125,7 @@ private Q_SLOTS:
     void canBeDestroyedInTheMiddleOfALongSearch();
     void doesNotWaitForALibraryThatIsLocked();
     void theApplicationEndsInOrderWithALibraryThatIsLocked();
+    void doesNotFreezeForUserSymbolsThatAreLocked();
     void manyInARowLeaveNothingBehind();
 
 private:
@@ -1452,6 +1454,38 @@ void TestSymbolDatabaseWidget::theApplicationEndsInOrderWithALibraryThatIsLocked
     QVERIFY(process.waitForLine("destroyed", 30000));
     other.run(QStringLiteral("COMMIT"));
     QCOMPARE(process.waitForEnd(30000), 0);
+}
+
+void TestSymbolDatabaseWidget::doesNotFreezeForUserSymbolsThatAreLocked()
+{
+    makeUsualLibrary();
+    makeUserSymbols(words("mine"));
+    SecondProcess other(QStringLiteral("symbol_store"), { QStringLiteral("lock"), userPath() });
+    QVERIFY(other.waitForLine("locked"));
+    const QRegularExpression message(QStringLiteral("^Error: .*database is locked"));
+    QTest::ignoreMessage(QtCriticalMsg, message);
+    QTest::ignoreMessage(QtCriticalMsg, message);
+    {
+        const Browser browser;
+        // The longest time that passes between two turns of the event loop.
+        qint64 longest = 0;
+        QElapsedTimer sinceLast;
+        QTimer timer;
+        timer.start(0);
+        sinceLast.start();
+        connect(&timer, &QTimer::timeout, this,
+                [&] { longest = std::max(longest, sinceLast.restart()); });
+        QVERIFY(browser.isReady());
+        QCOMPARE(sorted(browser.names()), UsualNames);
+        QVERIFY2(longest < 4000, qPrintable(QString::number(longest)));
+        QVERIFY(browser.button("User Symbols") == nullptr);
+    }
+    other.writeLine("unlock");
+    QCOMPARE(other.waitForEnd(), 0);
+
+    const Browser browser; // they are there again
+    QVERIFY(browser.isReady());
+    QVERIFY(browser.button("User Symbols") != nullptr);
 }
 
 void TestSymbolDatabaseWidget::manyInARowLeaveNothingBehind()

@@ -27,6 +27,9 @@ namespace {
 /// The id of no symbol.
 constexpr int NoSymbol = -1;
 
+/// What Qt's driver waits of its own accord, in milliseconds.
+constexpr int DriversLockTimeout = 5000;
+
 int toId(const QVariant& value)
 {
     bool isNumber = false;
@@ -168,6 +171,7 @@ public:
 
     SymbolDatabaseModel* const q;
     QString databasePath;
+    int lockTimeout = DriversLockTimeout;
     const QString connectionName = QUuid::createUuid().toString();
     UpdateObserver updateObserver;
 };
@@ -363,6 +367,11 @@ QSqlDatabase SymbolDatabaseModel::database()
     return QSqlDatabase::database(d->connectionName);
 }
 
+void SymbolDatabaseModel::setLockTimeout(int milliseconds)
+{
+    d->lockTimeout = std::max(0, milliseconds);
+}
+
 bool SymbolDatabaseModel::open(bool readOnly)
 {
     if (readOnly && !QFile::exists(d->databasePath)) {
@@ -379,9 +388,14 @@ bool SymbolDatabaseModel::open(bool readOnly)
     QSqlDatabase connection =
         QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), d->connectionName);
     connection.setDatabaseName(d->databasePath);
+    QStringList options;
     if (readOnly) {
-        connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        options.append(QStringLiteral("QSQLITE_OPEN_READONLY"));
     }
+    if (d->lockTimeout != DriversLockTimeout) {
+        options.append(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(d->lockTimeout));
+    }
+    connection.setConnectOptions(options.join(QLatin1Char(';')));
     if (!connection.open()) {
         Q_EMIT errorOccured(tr("Failed to open database connection:[%1]",
                                "Error message: unable to connect to a database file.")

@@ -91,6 +91,10 @@ public:
     QString connectionName();
     /// The connection, opened if it was made by open() but is not open; invalid before open().
     QSqlDatabase database();
+    /// For how long a statement waits for another process that is writing to the file, before it
+    /// fails: in milliseconds, 5000 at first. For a model that is used where a person waits. Counts
+    /// from the next open() on.
+    void setLockTimeout(int milliseconds);
     /// Must be followed by close() also when it failed. For reading only, the file must exist
     /// (false without a message otherwise); for writing, an empty one is made where none is.
     bool open(bool readOnly);

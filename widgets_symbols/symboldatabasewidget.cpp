@@ -39,6 +39,10 @@ constexpr QSize GridSize(60, 60);
 /// Milliseconds that the destructor waits at most. A person takes them for no wait.
 constexpr int LongestWait = 100;
 
+/// Milliseconds that each statement waits for another process that is writing the user's symbols:
+/// they are read while the person waits.
+constexpr int LockTimeout = 250;
+
 constexpr int IdRole = Qt::UserRole + 1;
 /// Where a single item keeps its document.
 constexpr int DataRole = Qt::UserRole + 1;
@@ -299,6 +303,7 @@ void SymbolDatabaseWidget::handleSymbolManagerStartup(const QStringList& categor
 {
     m_userModel = std::make_unique<SymbolDatabaseModel>();
     m_userModel->setDatabasePath(userPath());
+    m_userModel->setLockTimeout(LockTimeout);
     connect(m_userModel.get(), &SymbolDatabaseModel::errorOccured, this,
             &SymbolDatabaseWidget::logUserError);
 

@@ -32,6 +32,10 @@ constexpr int ListHeight = 210; // pixels
 /// What a finger hits.
 constexpr int SuggestionHeight = 35; // pixels
 
+/// Milliseconds that each statement waits for another process that is writing the symbols: they are
+/// read while the person waits.
+constexpr int LockTimeout = 250;
+
 /// The rows of suggestions, as high as those of a combo box.
 class SuggestionDelegate : public QStyledItemDelegate
 {
@@ -73,6 +77,7 @@ SymbolsMenu::SymbolsMenu(const QList<QString>& categoryNames, const QString& lib
     m_itemModel = new QStandardItemModel(this);
     m_model = new SymbolDatabaseModel(this);
     m_model->setDatabasePath(libraryPath);
+    m_model->setLockTimeout(LockTimeout);
     createSearchField();
     createCategoryBox(categoryNames);
     createSymbolList();

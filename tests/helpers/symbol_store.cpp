@@ -5,12 +5,15 @@
 //   symbol_store add DATABASE COUNT        adds symbols of 20 kB, one after the other
 //   symbol_store update DATABASE FOLDER [MICROSECONDS]
 //                                          updates it, and dies by SIGKILL after that time
+//   symbol_store lock DATABASE             writes to it until a line is read
 // Each message of the model is printed as "error ..."; the last line is the number of symbols that
 // were added, or of updates that succeeded.
 
 #include "symboldatabasemodel.h"
 
 #include <QGuiApplication>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 
 #include <chrono>
 #include <csignal>
@@ -28,6 +31,18 @@ int addSymbols(SymbolDatabaseModel& model, int count)
             model.addSymbol(data, "png", QStringLiteral("dog"), QStringLiteral("Animals")) ? 1 : 0;
     }
     return added;
+}
+
+/// Keeps everybody else from reading, as a process that hangs in the middle of a commit would.
+int lockDatabase(SymbolDatabaseModel& model)
+{
+    model.open(false);
+    const bool locked = QSqlQuery(model.database()).exec(QStringLiteral("BEGIN EXCLUSIVE"));
+    std::puts(locked ? "locked" : "not locked");
+    std::fflush(stdout);
+    std::getchar();
+    model.close();
+    return locked ? 1 : 0;
 }
 
 void dieAfter(int microseconds)
@@ -55,6 +70,8 @@ int main(int argc, char* argv[])
     int done = 0;
     if (arguments.value(1) == QLatin1String("add")) {
         done = addSymbols(model, arguments.value(3).toInt());
+    } else if (arguments.value(1) == QLatin1String("lock")) {
+        done = lockDatabase(model);
     } else {
         done = model.updateDatabase(arguments.value(3)) ? 1 : 0;
         model.close();
