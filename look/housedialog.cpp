@@ -6,13 +6,16 @@
 #include "look/icons.h"
 #include "look/images.h"
 #include "look/sheets.h"
+#include "look/titlelabel.h"
 
 #include <QAbstractButton>
+#include <QAccessibleWidget>
 #include <QDialog>
 #include <QEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QScreen>
+#include <QTextDocumentFragment>
 
 namespace {
 
@@ -66,14 +69,61 @@ private:
     bool m_isCentred = false;
 };
 
+QString productName()
+{
+    return QStringLiteral("Sigilant PRO");
+}
+
+/// What a person reads in the title bar of `dialog`.
+QString shownTitle(const QWidget* dialog)
+{
+    const auto labels = dialog->findChildren<QLabel*>();
+    for (const QLabel* label : labels) {
+        if (dynamic_cast<const Look::TitleLabel*>(label) != nullptr) {
+            return Qt::mightBeRichText(label->text())
+                ? QTextDocumentFragment::fromHtml(label->text()).toPlainText()
+                : label->text();
+        }
+    }
+    return {};
+}
+
+/// A dialog of the house by the name in its title bar: those who cannot see it would otherwise be
+/// told the product's name, whichever dialog comes up.
+class AccessibleHouseDialog : public QAccessibleWidget
+{
+public:
+    explicit AccessibleHouseDialog(QWidget* dialog)
+        : QAccessibleWidget(dialog, QAccessible::Dialog)
+    { }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString title = kind == QAccessible::Name && widget()->accessibleName().isEmpty()
+            ? shownTitle(widget())
+            : QString();
+        return title.isEmpty() ? QAccessibleWidget::text(kind) : title;
+    }
+};
+
+QAccessibleInterface* createInterface(const QString& className, QObject* object)
+{
+    auto* dialog = qobject_cast<QDialog*>(object);
+    return className == QLatin1String("QDialog") && dialog != nullptr
+            && dialog->windowTitle() == productName()
+        ? new AccessibleHouseDialog(dialog)
+        : nullptr;
+}
+
 } // namespace
 
 void Look::prepareHouseDialog(QDialog* dialog)
 {
+    QAccessible::installFactory(createInterface); // only the first time
     dialog->setAttribute(Qt::WA_DeleteOnClose, false);
     dialog->setAttribute(Qt::WA_QuitOnClose, false);
     dialog->setWindowIcon(icon(QStringLiteral(LOOK_IMAGE_APPLICATION)));
-    dialog->setWindowTitle(QStringLiteral("Sigilant PRO"));
+    dialog->setWindowTitle(productName());
     new Centring(dialog);
 }
 

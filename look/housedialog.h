@@ -14,7 +14,7 @@ namespace Look {
  * the product's name and therefore not translated), and a life that ends neither by being closed
  * nor with the last window: dialogs live on the stack of a static helper or are shown again. One
  * without a frame that nobody has moved is shown in the middle of its parent's window, or of the
- * screen if it has none.
+ * screen if it has none. To those who cannot see it, it is named as in its title bar if it has one.
  */
 void prepareHouseDialog(QDialog* dialog);
 

@@ -4,9 +4,11 @@
 #include "look/housedialog.h"
 
 #include "oxmessagebox.h"
+#include "oxtitlebar.h"
 #include "support/everythingtranslated.h"
 #include "support/test.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QPixmap>
 #include <QPointer>
@@ -44,6 +46,10 @@ private Q_SLOTS:
     void staysWhereItWasMoved();
     void isCentredAnewWhenItIsShownAgain();
     void aFrameIsReckonedWithAsByTheToolkit();
+    void isNamedAsInItsTitleBar_data();
+    void isNamedAsInItsTitleBar();
+    void aNameOfItsOwnCounts();
+    void otherDialogsAreNamedByTheirWindowTitle();
 };
 
 void TestHouseDialog::closingDoesNotDeleteTheDialog()
@@ -188,6 +194,57 @@ void TestHouseDialog::aFrameIsReckonedWithAsByTheToolkit()
     dialog.resize(300, 200);
     dialog.show();
     QCOMPARE(dialog.pos(), plain.pos());
+}
+
+namespace {
+
+QString accessibleName(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+} // namespace
+
+void TestHouseDialog::isNamedAsInItsTitleBar_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << QStringLiteral("Save") << QStringLiteral("Save");
+    QTest::newRow("rich") << QStringLiteral("<b>Save</b> as") << QStringLiteral("Save as");
+    QTest::newRow("none") << QString() << QStringLiteral("Sigilant PRO");
+}
+
+void TestHouseDialog::isNamedAsInItsTitleBar()
+{
+    QFETCH(const QString, title);
+    QFETCH(const QString, name);
+    QDialog dialog;
+    Look::prepareHouseDialog(&dialog);
+    QCOMPARE(accessibleName(&dialog), QStringLiteral("Sigilant PRO"));
+    OxTitleBar bar(&dialog, QString(), title);
+    QCOMPARE(accessibleName(&dialog), name);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&dialog)->role(), QAccessible::Dialog);
+    bar.setTitle(QStringLiteral("Open"));
+    QCOMPARE(accessibleName(&dialog), QStringLiteral("Open"));
+}
+
+void TestHouseDialog::aNameOfItsOwnCounts()
+{
+    QDialog dialog;
+    Look::prepareHouseDialog(&dialog);
+    const OxTitleBar bar(&dialog, QString(), QStringLiteral("Save"));
+    dialog.setAccessibleName(QStringLiteral("Save the label"));
+    QCOMPARE(accessibleName(&dialog), QStringLiteral("Save the label"));
+}
+
+void TestHouseDialog::otherDialogsAreNamedByTheirWindowTitle()
+{
+    QDialog house;
+    Look::prepareHouseDialog(&house);
+    QDialog dialog;
+    dialog.setWindowTitle(QStringLiteral("Ruler"));
+    const OxTitleBar bar(&dialog, QString(), QStringLiteral("Measure"));
+    QCOMPARE(accessibleName(&dialog), QStringLiteral("Ruler"));
 }
 
 UW_TEST_MAIN(TestHouseDialog)
