@@ -32,6 +32,20 @@ Rules::Exists in(const QStringList& paths)
     };
 }
 
+/// Columns and a row of what a dialog ends with: by the name in its box and the file that was tapped.
+void addEndColumns()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("tapped");
+    QTest::addColumn<QString>("end");
+}
+
+void addEnd(const char* row, const char* name, const char* tapped, const char* end)
+{
+    QTest::newRow(row) << QString::fromLatin1(name) << QString::fromLatin1(tapped)
+                       << QString::fromLatin1(end);
+}
+
 } // namespace
 
 class TestFileDialogRules : public Test
@@ -229,21 +243,14 @@ void TestFileDialogRules::noCleanNameLeadsOutOfTheFolder()
 
 void TestFileDialogRules::openingEndsWith_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("tapped");
-    QTest::addColumn<QString>("end");
-
-    const auto add = [](const char* row, const char* name, const char* tapped, const char* end) {
-        QTest::newRow(row) << QString::fromLatin1(name) << QString::fromLatin1(tapped)
-                           << QString::fromLatin1(end);
-    };
-    add("a typed name", "a.txt", "", "/f/a.txt");
-    add("a typed name before a tapped file", "a.txt", "/f/b.txt", "/f/a.txt");
-    add("a name that is not there, after a tap", "gone", "/f/b.txt", "/f/b.txt");
-    add("a name that is not there", "gone", "", "stays open");
-    add("a name that is not there, the tapped file neither", "gone", "/f/gone", "stays open");
-    add("no name, after a tap: the shown folder", "", "/f/b.txt", "/f/");
-    add("no name", "", "", "stays open");
+    addEndColumns();
+    addEnd("a typed name", "a.txt", "", "/f/a.txt");
+    addEnd("a typed name before a tapped file", "a.txt", "/f/b.txt", "/f/a.txt");
+    addEnd("a name that is not there, after a tap", "gone", "/f/b.txt", "/f/b.txt");
+    addEnd("a name that is not there", "gone", "", "stays open");
+    addEnd("a name that is not there, the tapped file neither", "gone", "/f/gone", "stays open");
+    addEnd("no name, after a tap: the shown folder", "", "/f/b.txt", "/f/");
+    addEnd("no name", "", "", "stays open");
 }
 
 void TestFileDialogRules::openingEndsWith()
@@ -300,19 +307,12 @@ void TestFileDialogRules::savingEndsWith()
 
 void TestFileDialogRules::selectingAFolderEndsWith_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("tapped");
-    QTest::addColumn<QString>("end");
-
-    const auto add = [](const char* row, const char* name, const char* tapped, const char* end) {
-        QTest::newRow(row) << QString::fromLatin1(name) << QString::fromLatin1(tapped)
-                           << QString::fromLatin1(end);
-    };
-    add("a named folder", "sub", "", "/f/sub");
-    add("a named folder before a tapped one", "sub", "/f/other", "/f/sub");
-    add("a name that is not there", "gone", "/f/other", "/f/other");
-    add("a name that is not there, nothing tapped", "gone", "", "");
-    add("no name: the shown folder", "", "/f/other", "/f/");
+    addEndColumns();
+    addEnd("a named folder", "sub", "", "/f/sub");
+    addEnd("a named folder before a tapped one", "sub", "/f/other", "/f/sub");
+    addEnd("a name that is not there", "gone", "/f/other", "/f/other");
+    addEnd("a name that is not there, nothing tapped", "gone", "", "");
+    addEnd("no name: the shown folder", "", "/f/other", "/f/");
 }
 
 void TestFileDialogRules::selectingAFolderEndsWith()

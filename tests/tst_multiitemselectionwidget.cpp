@@ -1058,12 +1058,12 @@ void TestMultiItemSelectionWidget::moveItemStopsAtTheEndsAndAtEmptyRows()
     QCOMPARE(model->item(1), nullptr);
 }
 
-void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions_data()
-{
-    using Step = std::function<void(Recorder&)>;
-    QTest::addColumn<Step>("step");
-    QTest::addColumn<QStringList>("calls");
+namespace {
 
+using Step = std::function<void(Recorder&)>;
+
+void addStepsOfTheCaller()
+{
     QTest::newRow("setAvailableItems")
         << Step([](Recorder& w) {
                w.setAvailableItems(items({ 1, 2 }));
@@ -1088,6 +1088,10 @@ void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions_data()
                          QStringLiteral("addItemsToModel 2 available"),
                          QStringLiteral("moveItemsFromModelToModel 2 available selected"),
                          QStringLiteral("addItemsToModel 2 selected") };
+}
+
+void addStepsBetweenTheLists()
+{
     QTest::newRow("add") << Step([](Recorder& w) {
         mark(w.getAvailableListView(), { 0 });
         button(w, ">")->click();
@@ -1118,6 +1122,10 @@ void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions_data()
         << Step([](Recorder& w) { button(w, "<")->click(); })
         << QStringList { QStringLiteral("moveItemsFromModelToModel 0 selected available"),
                          QStringLiteral("getSelectedItemIds") };
+}
+
+void addStepsWithinTheSelection()
+{
     QTest::newRow("up") << Step([](Recorder& w) {
         w.setSelectedItems({ 1, 2, 3, 4 });
         mark(w.getSelectedListView(), { 3, 1, 2 });
@@ -1139,9 +1147,20 @@ void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions_data()
     }) << QStringList();
 }
 
+} // namespace
+
+void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions_data()
+{
+    QTest::addColumn<Step>("step");
+    QTest::addColumn<QStringList>("calls");
+    addStepsOfTheCaller();
+    addStepsBetweenTheLists();
+    addStepsWithinTheSelection();
+}
+
 void TestMultiItemSelectionWidget::stepsGoThroughTheVirtualFunctions()
 {
-    QFETCH(const std::function<void(Recorder&)>, step);
+    QFETCH(const Step, step);
     Recorder widget;
     widget.setAvailableItems(items({ 1, 2, 3, 4, 5 }));
     widget.setSelectedItems({ 4, 5 });

@@ -100,6 +100,53 @@ QByteArray printed(const QString& message, const QByteArray& bytes)
     return "got " + text.toHex() + ' ' + bytes.toHex();
 }
 
+/// The home program, as far as it listens.
+class HomeProgram
+{
+public:
+    HomeProgram()
+        : m_channel(homeChannel())
+        , m_received(&m_channel, &QCopChannel::received)
+    { }
+
+    /// The data of the next message; "end" once it is told that there is no more. Messages of one
+    /// sender arrive in their order.
+    QByteArray next()
+    {
+        QCopChannel::send(homeChannel(), QStringLiteral("end"));
+        if (!QTest::qWaitFor([this] { return !m_received.isEmpty(); })) {
+            return "nothing";
+        }
+        const QList<QVariant> message = m_received.takeFirst();
+        return message.at(0) == QStringLiteral("end") ? QByteArray("end")
+                                                      : message.at(1).toByteArray();
+    }
+
+private:
+    QCopChannel m_channel;
+    QSignalSpy m_received;
+};
+
+/// The Editor's help, with this one manual.
+struct OneManual
+{
+    OneManual()
+    {
+        makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
+        window.populatePDF(QStringLiteral("Editor"));
+        list = manualsList(window);
+    }
+
+    /// Row 0 is the header of its folder.
+    void tap(int row) const
+    {
+        Finger().tap(list->viewport(), list->visualItemRect(list->item(row)).center());
+    }
+
+    OxHelpWindow window;
+    QListWidget* list = nullptr;
+};
+
 } // namespace
 
 class TestOxHelpWindow : public Test
@@ -439,10 +486,8 @@ void TestOxHelpWindow::twoFoldersGiveAHeaderEachAndTheirManuals()
 
 void TestOxHelpWindow::aHeaderIsUnderlinedAndHasAnEmptyPath()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    const QListWidgetItem* header = manualsList(window)->item(0);
+    const OneManual help;
+    const QListWidgetItem* header = help.list->item(0);
     QFont underlined = QApplication::font();
     underlined.setUnderline(true);
     QCOMPARE(header->data(Qt::FontRole).value<QFont>(), underlined);
@@ -454,10 +499,8 @@ void TestOxHelpWindow::aHeaderIsUnderlinedAndHasAnEmptyPath()
 
 void TestOxHelpWindow::aManualIsBlueAndHasItsPath()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    const QListWidgetItem* manual = manualsList(window)->item(1);
+    const OneManual help;
+    const QListWidgetItem* manual = help.list->item(1);
     QCOMPARE(manual->data(Qt::ForegroundRole).value<QBrush>(), QBrush(Qt::blue, Qt::SolidPattern));
     QCOMPARE(manual->data(Qt::SizeHintRole).toSize(), QSize(100, 40));
     QCOMPARE(pathOf(manual), QStringLiteral("/Home/Manuals/Editor/Layers/Lock.pdf"));
@@ -578,16 +621,11 @@ void TestOxHelpWindow::theFolderIsAProperty()
 
 void TestOxHelpWindow::aTappedManualIsSentToTheHomeProgram()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
     SecondProcess home(QStringLiteral("channel_peer"), { QStringLiteral("listen"), homeChannel() });
     QVERIFY(home.waitForLine("ready"));
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    window.show();
-    QListWidget* list = manualsList(window);
-
-    Finger().tap(list->viewport(), list->visualItemRect(list->item(1)).center());
-
+    OneManual help;
+    help.window.show();
+    help.tap(1);
     QCOMPARE(home.nextLine(),
              printed(QStringLiteral("launch"),
                      serialised(QStringLiteral("/Home/Manuals/Editor/Layers/Lock.pdf"))));
@@ -595,15 +633,11 @@ void TestOxHelpWindow::aTappedManualIsSentToTheHomeProgram()
 
 void TestOxHelpWindow::aTapOnAHeaderSendsNothing()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
     SecondProcess home(QStringLiteral("channel_peer"), { QStringLiteral("listen"), homeChannel() });
     QVERIFY(home.waitForLine("ready"));
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    window.show();
-    QListWidget* list = manualsList(window);
-
-    Finger().tap(list->viewport(), list->visualItemRect(list->item(0)).center());
+    OneManual help;
+    help.window.show();
+    help.tap(0);
     // Messages of one sender arrive in their order: this one is the first.
     QCopChannel::send(homeChannel(), QStringLiteral("end"));
 
@@ -615,8 +649,7 @@ void TestOxHelpWindow::aDragSendsNothing()
     for (int i = 10; i < 40; ++i) {
         makeFile(manuals() + QStringLiteral("Layers/Lock%1.pdf").arg(i));
     }
-    QCopChannel home(homeChannel());
-    QSignalSpy received(&home, &QCopChannel::received);
+    HomeProgram home;
     OxHelpWindow window;
     window.populatePDF(QStringLiteral("Editor"));
     window.show();
@@ -627,63 +660,45 @@ void TestOxHelpWindow::aDragSendsNothing()
     finger.press(list->viewport(), QPoint(20, 300));
     finger.moveBy(QPoint(0, -100));
     finger.release();
-    QCopChannel::send(homeChannel(), QStringLiteral("end"));
 
-    QTRY_COMPARE(received.count(), 1);
-    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("end"));
+    QCOMPARE(home.next(), QByteArray("end"));
     QVERIFY(list->verticalScrollBar()->value() > 0);
 }
 
 void TestOxHelpWindow::withoutAHomeProgramATapIsLost()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    window.show();
-    QListWidget* list = manualsList(window);
-    Finger().tap(list->viewport(), list->visualItemRect(list->item(1)).center());
-
-    QCopChannel home(homeChannel());
-    QSignalSpy received(&home, &QCopChannel::received);
-    QCopChannel::send(homeChannel(), QStringLiteral("end"));
-    QTRY_COMPARE(received.count(), 1);
-    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("end"));
+    OneManual help;
+    help.window.show();
+    help.tap(1);
+    QCOMPARE(HomeProgram().next(), QByteArray("end"));
 }
 
 void TestOxHelpWindow::theSlotTakesNoItemToo()
 {
-    QCopChannel home(homeChannel());
-    QSignalSpy received(&home, &QCopChannel::received);
+    HomeProgram home;
     OxHelpWindow window;
     const QListWidgetItem withoutData;
 
     window.callPDFLaunchSlot(nullptr);
     window.callPDFLaunchSlot(const_cast<QListWidgetItem*>(&withoutData));
-    QCopChannel::send(homeChannel(), QStringLiteral("end"));
 
-    QTRY_COMPARE(received.count(), 1);
-    QCOMPARE(received.at(0).at(0).toString(), QStringLiteral("end"));
+    QCOMPARE(home.next(), QByteArray("end"));
 }
 
 void TestOxHelpWindow::returnOpensTheCurrentManual()
 {
-    makeFile(manuals() + QStringLiteral("Layers/Lock.pdf"));
-    QCopChannel home(homeChannel());
-    QSignalSpy received(&home, &QCopChannel::received);
-    OxHelpWindow window;
-    window.populatePDF(QStringLiteral("Editor"));
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    manualsList(window)->setFocus();
-    manualsList(window)->setCurrentRow(1);
+    HomeProgram home;
+    OneManual help;
+    help.window.show();
+    help.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&help.window));
+    help.list->setFocus();
+    help.list->setCurrentRow(1);
 
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    QTest::keyClick(help.window.windowHandle(), Qt::Key_Return);
 
-    QTRY_COMPARE(received.count(), 1);
-    QCOMPARE(received.at(0).at(1).toByteArray(),
-             serialised(QStringLiteral("/Home/Manuals/Editor/Layers/Lock.pdf")));
-    QVERIFY(window.isVisible());
+    QCOMPARE(home.next(), serialised(QStringLiteral("/Home/Manuals/Editor/Layers/Lock.pdf")));
+    QVERIFY(help.window.isVisible());
 }
 
 void TestOxHelpWindow::bothCloseButtonsHideIt_data()
