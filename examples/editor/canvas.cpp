@@ -16,7 +16,8 @@ namespace {
 constexpr double MillimetresPerInch = 25.4;
 constexpr int HandleSize = 14; // pixels that are drawn; a finger has IconButtonSize
 constexpr int HandleDistance = 8; // pixels from the object's corner to the middle of its handle
-constexpr int FrameMargin = 20; // pixels around a page that is fitted
+constexpr int PageMargin = 20; // pixels around a page that is fitted
+constexpr QMargins FrameMargins(3, 3, 3, 3); // of what is selected
 constexpr int LeastReach = 24; // pixels in which a finger finds even a thin object
 constexpr double LeastSize = 1; // millimetres of what has been resized
 const QColor AccentOrange(0xfd, 0x78, 0x00);
@@ -69,7 +70,7 @@ void Canvas::setZoom(int percent)
 void Canvas::zoomToFit()
 {
     const QSizeF page = m_document->content().page();
-    const QSizeF room = size() - QSize(2 * FrameMargin, 2 * FrameMargin);
+    const QSizeF room = size() - QSize(2 * PageMargin, 2 * PageMargin);
     const double scale = qMin(room.width() / page.width(), room.height() / page.height());
     m_center = { page.width() / 2, page.height() / 2 };
     setZoom(int(scale * MillimetresPerInch / logicalDpiX() * 100));
@@ -92,7 +93,7 @@ void Canvas::paintEvent(QPaintEvent* /*event*/)
         if (m_document->isSelected(object)) {
             const bool isFree = object.allows(Object::Properties);
             painter.setPen(QPen(AccentOrange, 2, isFree ? Qt::SolidLine : Qt::DotLine));
-            painter.drawRect(rectOf(object));
+            painter.drawRect(rectOf(object) + FrameMargins);
             if (hasHandle()) {
                 QRect handle(0, 0, HandleSize, HandleSize);
                 handle.moveCenter(handleOf(object).center());

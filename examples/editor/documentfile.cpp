@@ -10,7 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QSet>
 
 namespace {
@@ -41,7 +40,9 @@ struct Fields
     }
     template <typename Value> void field(const char* name, Value* value, Value least, Value most)
     {
-        const double stored = json[QLatin1String(name)].toDouble();
+        // What is written can be read again, however far a finger has dragged it.
+        *value = qBound(least, *value, most);
+        const double stored = json[QLatin1String(name)].toDouble(least);
         isGood = isGood && (!isReading || (stored >= least && stored <= most));
         field(name, value);
     }
@@ -145,11 +146,16 @@ QString DocumentFile::write(const QString& path, Content content)
     visit(&fields, &content);
     QSaveFile file(path);
     if (file.open(QFile::WriteOnly) && file.write(QJsonDocument(fields.json).toJson()) >= 0
-        && file.commit()) {
+        && commit(&file)) {
         return {};
     }
     return tr("%1 cannot be saved:\n%2", "Error message: a file and the system's reason.")
         .arg(QFileInfo(path).fileName(), file.errorString());
+}
+
+bool DocumentFile::commit(QSaveFile* file)
+{
+    return file->flush() && file->error() == QFile::NoError && file->commit();
 }
 
 QString DocumentFile::complaintAbout(const QByteArray& svg)

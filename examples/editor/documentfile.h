@@ -6,6 +6,7 @@
 #include "document.h"
 
 #include <QCoreApplication>
+#include <QSaveFile>
 
 /// Documents as files: JSON with a version number. A file can come from anywhere: every number that
 /// is read can be drawn, and every drawing may be.
@@ -18,6 +19,9 @@ public:
     static QString read(const QString& path, Content* content);
     /// Replaces the file as a whole or not at all. Returns what to tell the person, or nothing.
     static QString write(const QString& path, Content content);
+    /// Commits the file, unless some of it could not be written. QSaveFile alone does not notice
+    /// when only a part of its last buffer fits on the disk.
+    static bool commit(QSaveFile* file);
     /// Why a drawing is not accepted; empty if it is.
     static QString complaintAbout(const QByteArray& svg);
 };

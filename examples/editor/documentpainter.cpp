@@ -3,12 +3,13 @@
 
 #include "documentpainter.h"
 
+#include "documentfile.h"
+
 #include <ApplicationFont>
 
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace {
 
@@ -24,7 +25,8 @@ void paintText(QPainter* painter, const Object& object, const QString& text)
     painter->setFont(font);
     painter->scale(1 / TextScale, 1 / TextScale);
     const QRectF rect(object.rect().topLeft() * TextScale, object.rect().size() * TextScale);
-    painter->drawText(rect, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter->drawText(rect, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap | Qt::TextDontClip,
+                      text);
     painter->restore();
 }
 
@@ -63,7 +65,7 @@ QString DocumentPainter::print(const QString& path, const Content& content,
         }
         isWritten = painter.end() && isWritten;
     }
-    if (!isWritten || !file.commit()) {
+    if (!isWritten || !DocumentFile::commit(&file)) {
         return tr("%1 cannot be printed:\n%2", "Error message: a file and the system's reason.")
             .arg(QFileInfo(path).fileName(), file.errorString());
     }

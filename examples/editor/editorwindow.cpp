@@ -220,7 +220,7 @@ void EditorWindow::openDatabase()
 
 void EditorWindow::showHelp()
 {
-    OxHelpWindow help(this);
+    OxHelpWindow help; // no parent, as three others here: with one they would be no window
     help.insertHelpFAQs({
         { QIcon(QStringLiteral(":/Lock/Lock/object-lock.png")),
           tr("Why can an object not be moved?\nIt is locked: see its lock options.", "Help.") },
@@ -233,7 +233,7 @@ void EditorWindow::showHelp()
 
 void EditorWindow::showAbout()
 {
-    OxInfoWidget(QStringLiteral(EDITOR_VERSION), this).exec();
+    OxInfoWidget(QStringLiteral(EDITOR_VERSION)).exec();
 }
 
 void EditorWindow::add(Object::Kind kind, const QString& text, const QByteArray& svg)
@@ -259,7 +259,7 @@ void EditorWindow::addText()
 
 void EditorWindow::addSymbol()
 {
-    SymbolDatabaseWidget browser(this);
+    SymbolDatabaseWidget browser;
     browser.setInsertMode(true);
     QByteArray svg;
     connect(&browser, &SymbolDatabaseWidget::importSymbolRequestedSignal, &browser, [&] {
@@ -285,11 +285,12 @@ void EditorWindow::selectSeveral()
     for (const Object& object : m_document.content().objects()) {
         items.append(new QStandardItem(object.description()));
         items.constLast()->setData(object.id, Qt::UserRole + 1);
+        items.constLast()->setSizeHint(MenuItemSize); // for a finger
         if (m_document.isSelected(object)) {
             selected.append(object.id);
         }
     }
-    MultiItemSelectionDialog dialog(this);
+    MultiItemSelectionDialog dialog;
     dialog.getSelectionWidget()->setAvailableItems(items);
     dialog.getSelectionWidget()->setSelectedItems(selected);
     if (dialog.exec() == QDialog::Accepted) {

@@ -25,6 +25,8 @@ public:
     explicit EditorWindow(QWidget* parent = nullptr);
     ~EditorWindow() override;
 
+    const Document& document() const { return m_document; }
+
 public Q_SLOTS:
     void openFile(const QString& path);
 

@@ -34,7 +34,7 @@ int main(int argc, char* argv[])
     if (!path.isEmpty()) {
         window.openFile(path);
     }
-    std::puts("editing"); // for whoever waits for the window
+    std::printf("editing %s\n", qUtf8Printable(window.document().path())); // for who waits for it
     std::fflush(stdout);
     return OxSingleInstanceApplication::exec();
 }
