@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int Version = 1;
-constexpr qint64 LargestFile = 32 * 1024 * 1024; // bytes
+constexpr qint64 LargestFile = qint64(32) * 1024 * 1024; // bytes
 constexpr double Farthest = 10000; // millimetres
 const QStringList KindNames = { QStringLiteral("text"), QStringLiteral("rectangle"),
                                 QStringLiteral("ellipse"), QStringLiteral("line"),

@@ -27,7 +27,7 @@
 namespace {
 
 constexpr QSize MenuItemSize(220, 40);
-constexpr qint64 LargestSymbol = 4 * 1024 * 1024; // bytes
+constexpr qint64 LargestSymbol = qint64(4) * 1024 * 1024; // bytes
 
 } // namespace
 

@@ -79,7 +79,8 @@ void EditorUser::tapButton(const QWidget* parent, const QString& text)
 {
     const auto buttons = parent->findChildren<QAbstractButton*>();
     for (QAbstractButton* button : buttons) {
-        if ((button->text() == text || button->accessibleName() == text) && button->isVisible()) {
+        const QString shown = button->text().remove(QLatin1Char('&'));
+        if ((shown == text || button->accessibleName() == text) && button->isVisible()) {
             tapOrFail(button, text);
             return;
         }
@@ -108,6 +109,9 @@ void EditorUser::enter(const QString& field, const QString& text) const
 {
     tap(field);
     auto* widget = find(field);
+    if (widget == nullptr) {
+        return;
+    }
     if (!QTest::qWaitFor([widget] { return widget->hasFocus(); })) {
         fail(QStringLiteral("%1 has no focus after a tap").arg(field));
         return;
@@ -178,7 +182,7 @@ void EditorUser::command(const QString& text)
     QCoreApplication::processEvents();
 }
 
-void EditorUser::insertText(const QString& text)
+void EditorUser::insertText(const QString& text) const
 {
     whileModal<OxInputDialog>(
         [&] { tap(QStringLiteral("addText")); },

@@ -63,7 +63,7 @@ public:
     void command(const QString& text);
 
     /// Inserts a text by its dialog.
-    void insertText(const QString& text);
+    void insertText(const QString& text) const;
     void insertShape(const QString& button) const { tap(button); }
 
     /// In the file dialog: types a name and accepts.
