@@ -6,6 +6,7 @@
 #include "editorwindow.h"
 
 #include <OxSingleInstanceApplication>
+#include <OxTranslation>
 
 #include <QCommandLineParser>
 
@@ -28,6 +29,7 @@ int main(int argc, char* argv[])
     if (!application.isOnlyInstance()) {
         return 0; // the first instance has come forward
     }
+    OxTranslation::install(); // the library's texts in the person's language
     EditorWindow window;
     application.setMainWidget(&window);
     const QString path = parser.positionalArguments().value(0);

@@ -5,7 +5,6 @@
 
 #include "ui_propertiespanel.h"
 
-#include <DragScrollButton>
 #include <OxCollapsibleWidgetContainer>
 
 PropertiesPanel::PropertiesPanel(Document* document, QSize size, QWidget* parent)
@@ -31,9 +30,7 @@ PropertiesPanel::~PropertiesPanel() = default;
 void PropertiesPanel::addSection(QWidget* content)
 {
     auto* section = new OxCollapsibleWidgetContainer(content, content->windowTitle(), this);
-    auto* button = section->findChild<DragScrollButton*>();
-    button->setChecked(true); // a new section shows its content, but its button does not know
-    button->setAccessibleName(content->windowTitle());
+    section->setExpanded(true);
     addPropertiesWidget(section);
 }
 
@@ -65,12 +62,6 @@ void PropertiesPanel::setUpColors()
 {
     m_ui->colorTabs->addTab(tr("Fill", "Tab of the colour inside an object."));
     m_ui->colorTabs->addTab(tr("Line", "Tab of the colour of an object's line or text."));
-    m_ui->colors->setMaxColumnCount(5);
-    m_ui->colors->setColorPallete(QStringLiteral("transparent,#ffffff,#c6c6c6,#848484,#000000,"
-                                                 "#d00000,#fd7800,#ffd500,#008a3e,#0068d9")
-                                      .split(QLatin1Char(',')),
-                                  QString());
-    m_ui->colors->setTransparentColorVisible(true); // only now that it is there
     connect(m_ui->colorTabs, &QTabBar::currentChanged, this, &PropertiesPanel::showObject);
     connect(m_ui->colors, &ColorMenu::colorSignal, this, [=](const QString& color) {
         const bool isFill = m_ui->colorTabs->currentIndex() == 0;
