@@ -267,7 +267,9 @@ void TestGuides::thePanelEndsTheDimmingWhenItIsClosed()
             panel = window->findChild<LayerPanel*>();
         }
     }
-    QVERIFY(panel != nullptr);
+    if (panel == nullptr) {
+        QFAIL("no container shows the panel");
+    }
     QVERIFY(panel->isVisible());
     const QPointer<QWidget> container = panel->window();
     Finger().tap(closeButtonOf(panel));
