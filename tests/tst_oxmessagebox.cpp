@@ -1258,7 +1258,8 @@ void TestOxMessageBox::textHigherThanTheScreenScrolls()
     QCOMPARE(area->widget(), label);
     QVERIFY(label->height() >= label->heightForWidth(label->width()));
     QCOMPARE(area->verticalScrollBar()->maximum(), label->height() - area->viewport()->height());
-    QCOMPARE(area->viewport()->width(), label->width());
+    QVERIFY(area->viewport()->width() >= label->width());
+    QCOMPARE(area->width(), box->width());
     QVERIFY(area->verticalScrollBar()->isVisible());
     QCOMPARE(area->verticalScrollBar()->width(), 35);
     // The grey of the panel, between the lines.

@@ -362,14 +362,15 @@ void OxMessageBox::scrollTextHigherThanScreen()
     area->setFocusPolicy(Qt::TabFocus); // for those who scroll with keys
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     delete layout()->replaceWidget(m_textLabel, area);
-    layout()->setAlignment(area, Qt::AlignLeft);
+    layout()->setAlignment(area, Qt::Alignment()); // the bar belongs to the edge of the box
     area->setWidget(m_textLabel);
     // The grey of the panel shows through.
     m_textLabel->setAutoFillBackground(false);
     // A rich text would keep the finger to itself, for the sake of links.
     m_textLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     area->viewport()->setAutoFillBackground(false);
-    area->setFixedSize(text.width() + ScrollBarWidth, ScreenHeight - rest);
+    area->setMinimumWidth(text.width() + ScrollBarWidth);
+    area->setFixedHeight(ScreenHeight - rest);
 }
 
 #include "moc_oxmessagebox.cpp"
