@@ -230,6 +230,8 @@ private Q_SLOTS:
     void theUserBackgroundIsNotReached();
     void aReadOnlyTextCannotBeEdited();
     void aLockedObjectCannotBeDeleted();
+    void whatIsTypedIsKeptWhenATapGoesElsewhere_data();
+    void whatIsTypedIsKeptWhenATapGoesElsewhere();
     void undoAndRedoGoThroughTheSteps();
     void whatIsChangedIsAskedForBeforeItIsLost_data();
     void whatIsChangedIsAskedForBeforeItIsLost();
@@ -584,6 +586,28 @@ void TestEditor::aLockedObjectCannotBeDeleted()
     user.tapTab(QStringLiteral("tabs"), 1);
     user.tap(QStringLiteral("removeLayer"));
     QCOMPARE(user.objects().count(), 1);
+}
+
+void TestEditor::whatIsTypedIsKeptWhenATapGoesElsewhere_data()
+{
+    QTest::addColumn<QString>("elsewhere");
+    QTest::newRow("a tool") << QStringLiteral("addEllipse");
+    QTest::newRow("the menu") << QStringLiteral("file");
+    QTest::newRow("another field") << QStringLiteral("top");
+}
+
+void TestEditor::whatIsTypedIsKeptWhenATapGoesElsewhere()
+{
+    QFETCH(QString, elsewhere);
+    EditorUser user;
+    user.insertShape(QStringLiteral("addRectangle"));
+    user.tap(QStringLiteral("left"));
+    auto* field = user.find(QStringLiteral("left"));
+    QTRY_VERIFY(field->hasFocus());
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field, QStringLiteral("7"));
+    user.tap(elsewhere);
+    QTRY_COMPARE(user.objects().at(0).left, 7.0);
 }
 
 void TestEditor::undoAndRedoGoThroughTheSteps()

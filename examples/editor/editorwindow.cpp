@@ -48,7 +48,11 @@ EditorWindow::EditorWindow(QWidget* parent)
     showDocument();
 }
 
-EditorWindow::~EditorWindow() = default;
+EditorWindow::~EditorWindow()
+{
+    // A field that goes while it has the focus tells what is typed: the document must still be there.
+    const std::unique_ptr<QWidget> panels(m_ui->panels);
+}
 
 void EditorWindow::setUpPanels()
 {
