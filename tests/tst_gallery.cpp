@@ -322,16 +322,17 @@ void TestGallery::thePicturesShowWhatAPageShowsAlone()
 
     // Of a dialog, its frame is the edge; of a page, there is a margin around the stage.
     const QImage about = picture(QStringLiteral("OxInfoWidget-about"));
-    QCOMPARE(about.size(), QSize(360, 300));
-    QCOMPARE(about.pixelColor(0, 150), QColor(0xfd, 0x78, 0x00));
+    QCOMPARE(about.size(), QSize(360, 300) * qGuiApp->devicePixelRatio());
+    QCOMPARE(about.pixelColor(0, about.height() / 2), QColor(0xfd, 0x78, 0x00));
     QVERIFY(picture(QStringLiteral("OxInfoWidget")).isNull());
     const QImage bars = picture(QStringLiteral("ContainerTitleBar"));
-    QVERIFY(bars.width() < ScreenWidth && bars.height() < ScreenHeight);
+    const QSize screen = ScreenSize * qGuiApp->devicePixelRatio();
+    QVERIFY(bars.width() < screen.width() && bars.height() < screen.height());
     for (int x = 0; x < bars.width(); ++x) {
         QCOMPARE(bars.pixelColor(x, 0), QColor(0xf2, 0xf2, 0xf2));
     }
     // What does not fit on the page is there as well.
-    QVERIFY(picture(QStringLiteral("MultiItemSelectionWidget")).height() > ScreenHeight);
+    QVERIFY(picture(QStringLiteral("MultiItemSelectionWidget")).height() > screen.height());
 }
 
 /// They show a folder of samples in the folder for temporary files, by a name that others may have

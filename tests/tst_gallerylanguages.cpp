@@ -11,6 +11,7 @@
 #include "support/gallerywalk.h"
 #include "support/test.h"
 #include "support/visibletexts.h"
+#include "symboldatabasewidget.h"
 #include "toolbox.h"
 
 #include <QAbstractButton>
@@ -56,8 +57,8 @@ const Gallery::Page& pageNamed(const QString& id)
 /// Whether `dialog` no longer waits for the categories of the symbol library.
 bool isFilled(const QWidget* dialog)
 {
-    const auto* categories = dialog->findChild<ToolBox*>();
-    return categories == nullptr || categories->findChildren<QPushButton*>().size() > 1;
+    return qobject_cast<const SymbolDatabaseWidget*>(dialog) == nullptr
+        || dialog->findChild<ToolBox*>()->findChildren<QPushButton*>().size() > 1;
 }
 
 /// Opens the dialogs of `page` one after the other and performs `script` on each.
