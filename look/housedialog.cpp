@@ -33,7 +33,11 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        auto* dialog = static_cast<QDialog*>(watched);
+        // Null once the dialog's own part has been destroyed.
+        auto* dialog = qobject_cast<QDialog*>(watched);
+        if (dialog == nullptr) {
+            return false;
+        }
         if (event->type() == QEvent::Show && !event->spontaneous() && isWanted(*dialog)) {
             centre(dialog); // which makes QDialog leave it there
             m_isCentred = true;
