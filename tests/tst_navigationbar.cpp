@@ -25,6 +25,7 @@
 #include <QTranslator>
 #include <QVBoxLayout>
 
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -233,6 +234,7 @@ private Q_SLOTS:
     void isBarEnabledTellsOfTheBarsOwnSwitchAlone();
     void textsCarryTheirComments();
     void startsWithOneRecordAndNoArrows();
+    void theLargestIndexIsCountedFromOne();
     void barsLayoutIsExact();
     void searchContainersLayoutIsExact();
     void recordNavigationsLayoutIsExact();
@@ -484,6 +486,17 @@ void TestNavigationBar::textsCarryTheirComments()
         (QStringList { comment, comment + QStringLiteral(" 1"), comment + QStringLiteral(" 5") }));
     QVERIFY(placeholders.contains(
         QStringLiteral("Placeholder text for search a database using a set of parameters.")));
+}
+
+void TestNavigationBar::theLargestIndexIsCountedFromOne()
+{
+    constexpr int Largest = std::numeric_limits<int>::max();
+    NavigationBar bar;
+    bar.setRecordNumberSlot(Largest);
+    bar.setCurrentRecordSlot(Largest);
+    QCOMPARE(Parts::labelOf(bar)->text(), QStringLiteral("2147483648 records"));
+    QCOMPARE(bar.lastRecord(), Largest);
+    QCOMPARE(bar.currentRecord(), Largest);
 }
 
 void TestNavigationBar::startsWithOneRecordAndNoArrows()

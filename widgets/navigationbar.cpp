@@ -131,12 +131,12 @@ bool NavigationBar::isBarEnabled() const
 
 int NavigationBar::lastRecord() const
 {
-    return m_recordCount - 1;
+    return int(m_recordCount - 1);
 }
 
 int NavigationBar::currentRecord() const
 {
-    return m_currentRecord - 1;
+    return int(m_currentRecord - 1);
 }
 
 QStringList NavigationBar::searchByTerms() const
@@ -199,7 +199,7 @@ void NavigationBar::hideZoomButtons()
 
 void NavigationBar::setRecordNumberSlot(int maxIndex)
 {
-    m_recordCount = maxIndex + 1;
+    m_recordCount = qint64(maxIndex) + 1;
     m_isRecordCountKnown = true;
     showRecordCount();
     determineNextAndPreviousVisibility();
@@ -207,7 +207,7 @@ void NavigationBar::setRecordNumberSlot(int maxIndex)
 
 void NavigationBar::setCurrentRecordSlot(int currentIndex)
 {
-    m_currentRecord = currentIndex + 1;
+    m_currentRecord = qint64(currentIndex) + 1;
     m_recordNumberField->setText(QString::number(m_currentRecord));
     determineNextAndPreviousVisibility();
 }

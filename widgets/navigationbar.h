@@ -161,8 +161,9 @@ private:
     QPushButton* createArrow(const char* name);
     void connectArrows();
 
-    int m_currentRecord = 1;
-    int m_recordCount = 1;
+    // Wider than the indexes that they count from 1: a form may give the largest one.
+    qint64 m_currentRecord = 1;
+    qint64 m_recordCount = 1;
     bool m_isRecordCountKnown = false;
     bool m_hasOwnPlaceholder = false;
     bool m_isMirrored = false;
