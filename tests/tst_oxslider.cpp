@@ -219,6 +219,7 @@ private Q_SLOTS:
     void emptyRangeHasOneTickAndOneValue();
     void sliderShorterThanItsHandleTakesTheMinimum();
     void widestRangeTapsAndPaints();
+    void moreTicksThanPixelsPaintAtOnce();
 };
 
 void TestOxSlider::isNamedAfterItsClass()
@@ -873,6 +874,35 @@ void TestOxSlider::widestRangeTapsAndPaints()
 
     slider.setShowText(OxSlider::NoText);
     QCOMPARE(picture(slider), drawing(slider, ticks({ 9, 59, 109, 159 }, 61, 54)));
+}
+
+void TestOxSlider::moreTicksThanPixelsPaintAtOnce()
+{
+    QList<int> columns;
+    for (int x = 9; x <= 209; ++x) {
+        columns.append(x);
+    }
+    TickedSlider ticked;
+    OxSlider& slider = ticked.slider;
+    slider.setTickInterval(1);
+    for (const int maximum : { 300, 1100, Maximum }) {
+        slider.setRange(0, maximum);
+        QCOMPARE(picture(slider), drawing(slider, ticks(columns, 61, 54)));
+    }
+
+    // The tick under the handle is among those that are painted, and so is the last one.
+    slider.setRange(0, 1100);
+    slider.setShowText(OxSlider::HandleText);
+    for (const int value : { 331, 332, 333, 334, 335, 336 }) {
+        slider.setValue(value);
+        const int centre = handleRect(slider).left() + 10;
+        picture(slider);
+        QCOMPARE(slider.sliderHandleValue(), 5 * centre);
+    }
+    slider.setRange(Minimum, Maximum);
+    slider.setShowText(OxSlider::AllText);
+    picture(slider);
+    QCOMPARE(slider.sliderHandleValue(), Maximum);
 }
 
 UW_TEST_MAIN(TestOxSlider)

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -179,8 +180,7 @@ void OxSlider::paintTicks(QPainter& painter)
         std::llround((handle.left() + halfHandle) * range / width()) + minimum();
     const int baseline = tickPosition() == QSlider::TicksAbove ? AboveTextBaseline : height() - 1;
 
-    // Wider than int: the step after the last tick may lie beyond its limits.
-    for (qint64 value = minimum(); value <= maximum(); value += step) {
+    const auto paintTickOf = [&](qint64 value) {
         const double fraction = range > 0 ? double(value - minimum()) / range : 0.0;
         const int x = int(std::lround(halfHandle + fraction * span)) - 1;
         paintTick(painter, x);
@@ -189,7 +189,19 @@ void OxSlider::paintTicks(QPainter& painter)
             painter.drawText(x - offset, baseline, QString::number(value));
             m_handleValue = int(value);
         }
+    };
+    // A range may have millions of ticks. No pixel that has any stays without, and neither does the
+    // handle; all the others would be painted over those.
+    const qint64 last = (qint64(maximum()) - minimum()) / step;
+    const qint64 stride = std::max<qint64>(1, last / std::max(1, std::abs(span)));
+    for (qint64 tick = 0; tick < last; tick += stride) {
+        paintTickOf(minimum() + tick * step);
     }
+    const qint64 handleOffset = valueUnderHandle - minimum();
+    if (stride > 1 && handleOffset % step == 0 && handleOffset >= 0 && handleOffset / step < last) {
+        paintTickOf(valueUnderHandle);
+    }
+    paintTickOf(minimum() + last * step);
 }
 
 void OxSlider::paintTick(QPainter& painter, int x) const
