@@ -62,6 +62,7 @@ private Q_SLOTS:
     void isBuiltOnceOnly();
     void aColumnWidthBuildsItOnce();
     void aPanelOfAFormBuildsItAsWideAsItself();
+    void aPanelOfAFormWithoutALayoutIsNotLost();
     void theSpacingIsKeptForTheToolBoxToCome();
     void buttonsAreVisibleForTheirPropertiesInAHiddenContainer();
     void theToolBoxHasNoBarsNoFrameAndASingleStepOf35();
@@ -168,6 +169,22 @@ void TestToolBoxContainer::aPanelOfAFormBuildsItAsWideAsItself()
     const QLayout* column = container.getToolBox()->widget()->layout();
     QCOMPARE(column->indexOf(panel), 0);
     QCOMPARE(column->indexOf(wider), 1);
+}
+
+void TestToolBoxContainer::aPanelOfAFormWithoutALayoutIsNotLost()
+{
+    ToolBoxContainer withMinimum;
+    auto* fixed = new QWidget;
+    fixed->setMinimumWidth(150);
+    withMinimum.addPanel(fixed);
+    QCOMPARE(withMinimum.columnWidth(), 150);
+
+    ToolBoxContainer container;
+    container.resize(210, 300);
+    auto* panel = new QWidget;
+    container.addPanel(panel);
+    QCOMPARE(container.columnWidth(), 210);
+    QCOMPARE(container.getToolBox()->widget()->layout()->indexOf(panel), 0);
 }
 
 void TestToolBoxContainer::theSpacingIsKeptForTheToolBoxToCome()

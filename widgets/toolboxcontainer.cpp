@@ -15,6 +15,8 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int SingleStep = 35; // pixels
@@ -187,7 +189,8 @@ int ToolBoxContainer::getToolBoxVerticalScrollValue() const
 void ToolBoxContainer::addPanel(QWidget* panel)
 {
     if (panel != nullptr) {
-        setColumnWidth(panel->sizeHint().width());
+        const int wanted = std::max(panel->sizeHint().width(), panel->minimumWidth());
+        setColumnWidth(wanted > 0 ? wanted : width());
         addPropertiesWidget(panel);
     }
 }

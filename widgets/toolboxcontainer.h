@@ -95,7 +95,8 @@ public:
 
 public Q_SLOTS:
     /// addPropertiesWidget() for forms, which add their panels by this name: where there is no tool
-    /// box yet, it makes one that is as wide as `panel` asks for. Null is ignored.
+    /// box yet, it makes one that is as wide as `panel` asks for, or as the container if it asks for
+    /// no width. Null is ignored.
     void addPanel(QWidget* panel);
     /// Scrolls up by 35 pixels, and all the way when no more than 70 are left.
     void onAboveButtonClicked();
