@@ -126,6 +126,7 @@ private Q_SLOTS:
     void doesNotWaitForALibraryThatIsLocked();
     void theApplicationEndsInOrderWithALibraryThatIsLocked();
     void doesNotFreezeForUserSymbolsThatAreLocked();
+    void waitsForTheChosenUserSymbolWhileItIsLocked();
     void manyInARowLeaveNothingBehind();
 
 private:
@@ -1486,6 +1487,26 @@ void TestSymbolDatabaseWidget::doesNotFreezeForUserSymbolsThatAreLocked()
     const Browser browser; // they are there again
     QVERIFY(browser.isReady());
     QVERIFY(browser.button("User Symbols") != nullptr);
+}
+
+void TestSymbolDatabaseWidget::waitsForTheChosenUserSymbolWhileItIsLocked()
+{
+    makeUsualLibrary();
+    makeUserSymbols(words("mine"));
+    const Browser browser;
+    QVERIFY(browser.isReady());
+    for (const char* category : { "All", "User Symbols" }) {
+        if (!browser.button(category)->isChecked()) {
+            browser.button(category)->click();
+        }
+        browser.select("mine");
+        // As long as a commit to a slow card may take.
+        SecondProcess other(QStringLiteral("symbol_store"),
+                            { QStringLiteral("lock"), userPath(), QStringLiteral("1000") });
+        QVERIFY(other.waitForLine("locked"));
+        QCOMPARE(browser.widget->getSelectedSymbol(), svgOf(QStringLiteral("mine"), 1));
+        QCOMPARE(other.waitForEnd(), 0);
+    }
 }
 
 void TestSymbolDatabaseWidget::manyInARowLeaveNothingBehind()

@@ -42,6 +42,9 @@ constexpr int LongestWait = 100;
 /// Milliseconds that each statement waits for another process that is writing the user's symbols:
 /// they are read while the person waits.
 constexpr int LockTimeout = 250;
+/// And for the document of the one that the person has chosen: the dialog is closed by then, and
+/// without it the choice would be lost.
+constexpr int ChoiceLockTimeout = 5000;
 
 constexpr int IdRole = Qt::UserRole + 1;
 /// Where a single item keeps its document.
@@ -117,6 +120,15 @@ void fitHeight(QAbstractButton* button)
         button->fontMetrics().boundingRect(room, Qt::TextWordWrap, button->text()).height()
         + Padding;
     button->setMinimumHeight(std::max(height, button->minimumHeight()));
+}
+
+/// The document of a symbol that was chosen.
+QByteArray chosenDocument(SymbolDatabaseModel& model, int id)
+{
+    model.setLockTimeout(ChoiceLockTimeout);
+    QByteArray document = model.getDataFromSymbolId(id);
+    model.setLockTimeout(LockTimeout);
+    return document;
 }
 
 /// Gives a category button, if there is one, another text.
@@ -235,14 +247,14 @@ QByteArray SymbolDatabaseWidget::getSelectedSymbol()
     const int id = index.data(IdRole).toInt();
     SymbolDatabaseWorker& library = m_libraryThread->worker;
     if (m_userSymbolsShown) {
-        return m_userModel->getDataFromSymbolId(id);
+        return chosenDocument(*m_userModel, id);
     }
     if (m_allShown) {
         // Both databases may have a symbol of this id: the name tells which one it is.
         const std::unique_ptr<QStandardItem> item(library.getItemFromSymbolId(id));
         return item->toolTip() == index.data(Qt::ToolTipRole).toString()
             ? item->data(DataRole).toByteArray()
-            : m_userModel->getDataFromSymbolId(id);
+            : chosenDocument(*m_userModel, id);
     }
     return library.getDataFromSymbolId(id);
 }

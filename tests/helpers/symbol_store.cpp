@@ -5,7 +5,8 @@
 //   symbol_store add DATABASE COUNT        adds symbols of 20 kB, one after the other
 //   symbol_store update DATABASE FOLDER [MICROSECONDS]
 //                                          updates it, and dies by SIGKILL after that time
-//   symbol_store lock DATABASE             writes to it until a line is read
+//   symbol_store lock DATABASE [MILLISECONDS]
+//                                          writes to it for that time, or until a line is read
 // Each message of the model is printed as "error ..."; the last line is the number of symbols that
 // were added, or of updates that succeeded.
 
@@ -34,13 +35,17 @@ int addSymbols(SymbolDatabaseModel& model, int count)
 }
 
 /// Keeps everybody else from reading, as a process that hangs in the middle of a commit would.
-int lockDatabase(SymbolDatabaseModel& model)
+int lockDatabase(SymbolDatabaseModel& model, int milliseconds)
 {
     model.open(false);
     const bool locked = QSqlQuery(model.database()).exec(QStringLiteral("BEGIN EXCLUSIVE"));
     std::puts(locked ? "locked" : "not locked");
     std::fflush(stdout);
-    std::getchar();
+    if (milliseconds > 0) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    } else {
+        std::getchar();
+    }
     model.close();
     return locked ? 1 : 0;
 }
@@ -71,7 +76,7 @@ int main(int argc, char* argv[])
     if (arguments.value(1) == QLatin1String("add")) {
         done = addSymbols(model, arguments.value(3).toInt());
     } else if (arguments.value(1) == QLatin1String("lock")) {
-        done = lockDatabase(model);
+        done = lockDatabase(model, arguments.value(3).toInt());
     } else {
         done = model.updateDatabase(arguments.value(3)) ? 1 : 0;
         model.close();
