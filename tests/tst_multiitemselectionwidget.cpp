@@ -419,6 +419,7 @@ private Q_SLOTS:
     void marksFollowTheirItemsInOneStep();
     void theMovedItemStaysInSight();
     void moveItemStopsAtTheEndsAndAtEmptyRows();
+    void rowsOfAnotherModelInTheViewDoNotMove();
 
     void stepsGoThroughTheVirtualFunctions_data();
     void stepsGoThroughTheVirtualFunctions();
@@ -1090,6 +1091,25 @@ void TestMultiItemSelectionWidget::moveItemStopsAtTheEndsAndAtEmptyRows()
     mark(widget.getSelectedListView(), { 1 });
     button(widget, "▲")->click();
     QCOMPARE(model->item(1), nullptr);
+}
+
+void TestMultiItemSelectionWidget::rowsOfAnotherModelInTheViewDoNotMove()
+{
+    MultiItemSelectionWidget widget;
+    widget.setManualOrdering(true);
+    widget.setAvailableItems(items({ 1, 2, 3 }));
+    widget.setSelectedItems({ 1, 2, 3 });
+    const QStandardItemModel* own = modelOf(widget.getSelectedListView());
+    QStandardItemModel other(2000, 1);
+    widget.getSelectedListView()->setModel(&other);
+    for (const char* text : { "▲", "▼" }) {
+        mark(widget.getSelectedListView(), { 1000, 1001, 1500 });
+        button(widget, text)->click();
+        QCOMPARE(own->rowCount(), 3);
+        QCOMPARE(own->item(0)->data(IdRole).toInt(), 1);
+        QCOMPARE(own->item(2)->data(IdRole).toInt(), 3);
+    }
+    widget.getSelectedListView()->setModel(nullptr);
 }
 
 namespace {

@@ -601,9 +601,10 @@ void MultiItemSelectionWidget::moveMarkedItems(bool up)
     // list would be laid out to show its neighbour.
     selection->clear();
     auto* list = static_cast<ListModel*>(m_selectedModel);
-    // A subclass may have a moveItem() of its own, which must see each row move.
+    // A subclass may have a moveItem() of its own, which must see each row move. Rows without items
+    // are those of a model that the application has put into the view instead.
     if (rows.size() > 1 && typeid(*this) == typeid(MultiItemSelectionWidget)
-        && list->isPlainList()) {
+        && !items.contains(nullptr) && list->isPlainList()) {
         list->moveByOne(rows, up);
     } else {
         for (size_t i = 0; i < rows.size(); ++i) {
