@@ -22,6 +22,7 @@
 #include <QtDesigner/QFormBuilder>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
+#include <limits>
 #include <memory>
 
 namespace {
@@ -191,6 +192,8 @@ private Q_SLOTS:
     void loaderKnowsEveryClass();
     void loaderSetsEveryPropertyOfTheLibrary_data();
     void loaderSetsEveryPropertyOfTheLibrary();
+    void loaderSurvivesExtremeValues_data();
+    void loaderSurvivesExtremeValues();
     void formBuilderSavesAndReloadsEveryProperty_data();
     void formBuilderSavesAndReloadsEveryProperty();
     void collapsibleContainerTakesItsContentFromAForm();
@@ -353,6 +356,43 @@ void TestDesigner::loaderSetsEveryPropertyOfTheLibrary()
         if (QString::fromLatin1(test.className) == entry->name() && test.designable) {
             QCOMPARE(subject->property(test.property), meant->property(test.property));
         }
+    }
+}
+
+void TestDesigner::loaderSurvivesExtremeValues_data()
+{
+    addRowPerFormWidget();
+}
+
+void TestDesigner::loaderSurvivesExtremeValues()
+{
+    QFETCH(int, index);
+    QDesignerCustomWidgetInterface* entry = formWidgetTable().at(index);
+    const std::unique_ptr<QWidget> example(entry->createWidget(nullptr));
+    for (const int number :
+         { std::numeric_limits<int>::min(), -1, 0, std::numeric_limits<int>::max() }) {
+        QString properties =
+            QStringLiteral("<property name=\"geometry\"><rect><x>0</x><y>0</y><width>-5</width>"
+                           "<height>-5</height></rect></property>");
+        for (const QMetaProperty& property : editableProperties(*example->metaObject())) {
+            const bool isTheLibrarys =
+                !QByteArray(property.enclosingMetaObject()->className()).startsWith('Q');
+            const bool isOfASlider = QByteArray(property.enclosingMetaObject()->className())
+                == QByteArray("QAbstractSlider");
+            if (property.typeId() == QMetaType::Int && (isTheLibrarys || isOfASlider)) {
+                properties += formXml(property, number);
+            } else if (property.typeId() == QMetaType::QStringList && isTheLibrarys) {
+                properties += formXml(property, QStringList { QString(), QStringLiteral("}{;#") });
+            }
+        }
+        const std::unique_ptr<QWidget> form =
+            loaded(formOf(QStringLiteral("<widget class=\"%1\" name=\"subject\">%2</widget>")
+                              .arg(entry->name(), properties)));
+        QWidget* subject = child(form, QStringLiteral("subject"));
+        QVERIFY(subject != nullptr);
+        subject->resize(300, 200);
+        form->show();
+        form->grab();
     }
 }
 

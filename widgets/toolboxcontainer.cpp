@@ -83,7 +83,7 @@ int ToolBoxContainer::columnWidth() const
 void ToolBoxContainer::setColumnWidth(int width)
 {
     if (width > 0) {
-        initialize(QSize(width, height()), QPoint());
+        initialize(QSize(std::min(width, QWIDGETSIZE_MAX), height()), QPoint());
     }
 }
 
