@@ -350,8 +350,16 @@ void TestLanguageChange::theCategoryThatIsTypedStays()
     auto* categories = only<ClickableComboBox>(menu);
     categories->setCurrentIndex(categories->count() - 1);
     categories->setEditText(QStringLiteral("Arr"));
+    categories->lineEdit()->setCursorPosition(2);
     speak("de");
     QCOMPARE(categories->currentText(), QStringLiteral("Arr"));
+    QCOMPARE(categories->lineEdit()->cursorPosition(), 2);
+    // Whichever entry was chosen before.
+    categories->setCurrentIndex(0);
+    categories->setEditText(QStringLiteral("Box"));
+    speak("fr");
+    QCOMPARE(categories->currentText(), QStringLiteral("Box"));
+    QCOMPARE(categories->lineEdit()->cursorPosition(), 3);
 }
 
 void TestLanguageChange::allCategoriesStillMeansAll()

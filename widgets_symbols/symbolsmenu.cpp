@@ -149,12 +149,14 @@ void SymbolsMenu::retranslate()
     const QSignalBlocker blocker(m_categoryBox);
     const QString former = m_categoryBox->itemText(m_allCategoriesIndex);
     const QString typed = m_categoryBox->currentText();
+    const int cursor = m_categoryBox->lineEdit()->cursorPosition();
     m_categoryBox->setItemText(m_allCategoriesIndex,
                                tr("All Categories", "Categories header for showing all symbols."));
-    if (m_categoryBox->currentIndex() == m_allCategoriesIndex && typed != former) {
-        m_categoryBox->setEditText(typed);
+    if (m_categoryBox->currentIndex() == m_allCategoriesIndex) {
+        const bool isEntry = typed == former;
+        m_categoryBox->setEditText(isEntry ? m_categoryBox->itemText(m_allCategoriesIndex) : typed);
+        m_categoryBox->lineEdit()->setCursorPosition(isEntry ? 0 : cursor);
     }
-    m_categoryBox->lineEdit()->setCursorPosition(0);
     nameSymbolView(m_symbolList);
 }
 
