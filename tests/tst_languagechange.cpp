@@ -407,7 +407,7 @@ void TestLanguageChange::theFirstVersionAndALaterOneAreTwoTexts()
 {
     OxInfoWidget panel(QStringLiteral("1.0"));
     speak("fr");
-    QVERIFY(visibleTexts(panel).contains(QStringLiteral("QLabel: text: Version : 1.0")));
+    QVERIFY(visibleTexts(panel).contains(QStringLiteral("QLabel: text: Version\u00a0: 1.0")));
     panel.setVersionNumber(QStringLiteral("2.0"));
     speak("es");
     QVERIFY(visibleTexts(panel).contains(QStringLiteral("QLabel: text: Versión: 2.0")));

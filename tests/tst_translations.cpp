@@ -147,6 +147,7 @@ private Q_SLOTS:
     void placeholdersBlanksAndLinesAreKept();
     void acceleratorsAreKept_data();
     void acceleratorsAreKept();
+    void aFrenchColonStaysWithItsWord();
     void theEmbeddedFileSpeaksAsTheSourceDoes_data();
     void theEmbeddedFileSpeaksAsTheSourceDoes();
 
@@ -277,6 +278,16 @@ void TestTranslations::acceleratorsAreKept()
         const qsizetype expected =
             language == QLatin1String("ar") ? 0 : message.source.count(QLatin1Char('&'));
         QVERIFY2(message.translation.count(QLatin1Char('&')) == expected,
+                 qPrintable(message.line()));
+    }
+}
+
+void TestTranslations::aFrenchColonStaysWithItsWord()
+{
+    const QList<Message> messages = messagesIn(translationFile(QStringLiteral("fr")));
+    for (const Message& message : messages) {
+        // A blank at which a line may break would leave the colon alone on the next one.
+        QVERIFY2(matches(message.translation, "(^|[^\\xa0])[:;!?]").isEmpty(),
                  qPrintable(message.line()));
     }
 }

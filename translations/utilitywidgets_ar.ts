@@ -74,7 +74,7 @@
     <message>
         <source>All object properties except for data editing are prevented from being changed.</source>
         <comment>Lock button tool tip text.</comment>
-        <translation>تُمنع تعديلات جميع خصائص الكائن باستثناء تحرير البيانات.</translation>
+        <translation>يُمنع تغيير جميع خصائص الكائن باستثناء تحرير البيانات.</translation>
     </message>
     <message>
         <source>Read
@@ -86,7 +86,7 @@ Only</source>
     <message>
         <source>All object properties are prevented from being changed.</source>
         <comment>Read-only button tool tip text.</comment>
-        <translation>تُمنع تعديلات جميع خصائص الكائن.</translation>
+        <translation>يُمنع تغيير جميع خصائص الكائن.</translation>
     </message>
     <message>
         <source>Set As User
@@ -508,11 +508,11 @@ support@example.com</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>إعادة التعيين</translation>
+        <translation>إعادة تعيين</translation>
     </message>
     <message>
         <source>Restore Defaults</source>
-        <translation>استعادة الافتراضي</translation>
+        <translation>استعادة الافتراضيات</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,7 @@
     <message>
         <source>Saves as new record in database</source>
         <comment>Save As info label</comment>
-        <translation>Legt in der Datenbank einen neuen Satz an</translation>
+        <translation>Legt einen neuen Datensatz an</translation>
     </message>
     <message>
         <source>OK</source>
@@ -520,7 +520,7 @@ support@example.com</translation>
     <message>
         <source>Query:[%1] Failed With:[%2]</source>
         <comment>Error message: A query is used to extract data from the database.</comment>
-        <translation>Abfrage:[%1] gescheitert mit:[%2]</translation>
+        <translation>Abfrage:[%1] fehlgeschlagen mit:[%2]</translation>
     </message>
     <message>
         <source>Unknown category: [%1]</source>
@@ -540,7 +540,7 @@ support@example.com</translation>
     <message>
         <source>Failed to enable foreign key support</source>
         <comment>Error message: database is unable to support a foreign key that identifies a row of another table.</comment>
-        <translation>Fremdschlüssel konnten nicht eingeschaltet werden</translation>
+        <translation>Fremdschlüssel konnten nicht aktiviert werden</translation>
     </message>
     <message>
         <source>[%1]: Connection does not exist, can not close database</source>
@@ -560,7 +560,7 @@ support@example.com</translation>
     <message>
         <source>Image file path does not exist: [%1]</source>
         <comment>Error message: trying to open symbol file.</comment>
-        <translation>Bilddatei gibt es nicht: [%1]</translation>
+        <translation>Bilddatei existiert nicht: [%1]</translation>
     </message>
     <message>
         <source>Failed to open image file: [%1]</source>

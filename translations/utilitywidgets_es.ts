@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>DATABASE SELECTOR</source>
-        <translation>SELECCIÓN DE BASE</translation>
+        <translation>SELECCIÓN DE BASE DE DATOS</translation>
     </message>
 </context>
 <context>
@@ -588,7 +588,7 @@ support@example.com</translation>
     <message>
         <source>Insert From File</source>
         <comment>Button text for inserting a custom symbol from a file.</comment>
-        <translation>Insertar de archivo</translation>
+        <translation>Insertar desde archivo</translation>
     </message>
     <message>
         <source>Cancel</source>

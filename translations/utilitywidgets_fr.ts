@@ -69,7 +69,7 @@
     <message>
         <source>Lock</source>
         <comment>Lock button text.</comment>
-        <translation>Verrou</translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>All object properties except for data editing are prevented from being changed.</source>
@@ -136,17 +136,17 @@ et imprimé au choix (option d’impression).</translation>
     <message>
         <source>Selection Limit: %1.</source>
         <comment>Label showing the limit for items selected.</comment>
-        <translation>Limite de sélection : %1.</translation>
+        <translation>Limite de sélection&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Available:</source>
         <comment>Label for showing number of available items.</comment>
-        <translation>Disponibles :</translation>
+        <translation>Disponibles&#xa0;:</translation>
     </message>
     <message>
         <source>Selected:</source>
         <comment>Label for showing number of selected items.</comment>
-        <translation>Sélectionnés :</translation>
+        <translation>Sélectionnés&#xa0;:</translation>
     </message>
     <message>
         <source>Add all</source>
@@ -300,7 +300,7 @@ et imprimé au choix (option d’impression).</translation>
     <message>
         <source> Name</source>
         <comment>Label used to denote what the current &apos;File Name&apos; or &apos;Folder Name&apos; is selected.</comment>
-        <translation> :</translation>
+        <translation>&#xa0;:</translation>
     </message>
     <message>
         <source>Format</source>
@@ -366,12 +366,12 @@ support@example.com</translation>
     </message>
     <message>
         <source>Version: </source>
-        <translation>Version : </translation>
+        <translation>Version&#xa0;: </translation>
     </message>
     <message>
         <source>Version: </source>
         <comment>Label that displays the application version</comment>
-        <translation>Version : </translation>
+        <translation>Version&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -520,22 +520,22 @@ support@example.com</translation>
     <message>
         <source>Query:[%1] Failed With:[%2]</source>
         <comment>Error message: A query is used to extract data from the database.</comment>
-        <translation>Requête:[%1] échouée avec:[%2]</translation>
+        <translation>La requête [%1] a échoué&#xa0;: [%2]</translation>
     </message>
     <message>
         <source>Unknown category: [%1]</source>
         <comment>Error message: Categories are child tables of a parent table in a database.</comment>
-        <translation>Catégorie inconnue : [%1]</translation>
+        <translation>Catégorie inconnue&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>[%1]: Connection already exists, possible failure to remove connection</source>
         <comment>Error message: Database is already connected.</comment>
-        <translation>[%1] : la connexion existe déjà, elle n’a peut-être pas été supprimée</translation>
+        <translation>[%1]&#xa0;: la connexion existe déjà, elle n’a peut-être pas été supprimée</translation>
     </message>
     <message>
         <source>Failed to open database connection:[%1]</source>
         <comment>Error message: unable to connect to a database file.</comment>
-        <translation>Impossible d’ouvrir la connexion à la base de données:[%1]</translation>
+        <translation>Impossible d’ouvrir la connexion à la base de données&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>Failed to enable foreign key support</source>
@@ -545,27 +545,27 @@ support@example.com</translation>
     <message>
         <source>[%1]: Connection does not exist, can not close database</source>
         <comment>Error message: closing a database connection.</comment>
-        <translation>[%1] : la connexion n’existe pas, impossible de fermer la base de données</translation>
+        <translation>[%1]&#xa0;: la connexion n’existe pas, impossible de fermer la base de données</translation>
     </message>
     <message>
         <source>Failed to start transaction:[%1]</source>
         <comment>Error message: A transaction is a single unit of work for data retrieval or updates.</comment>
-        <translation>Impossible de démarrer la transaction:[%1]</translation>
+        <translation>Impossible de démarrer la transaction&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>Failed to commit transaction:[%1]</source>
         <comment>Error message: A transaction is a single unit of work for data retrieval or updates.</comment>
-        <translation>Impossible de valider la transaction:[%1]</translation>
+        <translation>Impossible de valider la transaction&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>Image file path does not exist: [%1]</source>
         <comment>Error message: trying to open symbol file.</comment>
-        <translation>Le fichier d’image n’existe pas : [%1]</translation>
+        <translation>Le fichier d’image n’existe pas&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>Failed to open image file: [%1]</source>
         <comment>Error message: trying to open symbol file.</comment>
-        <translation>Impossible d’ouvrir le fichier d’image : [%1]</translation>
+        <translation>Impossible d’ouvrir le fichier d’image&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>Raw SVG Data is null, can not create thumbnail</source>
@@ -575,7 +575,7 @@ support@example.com</translation>
     <message>
         <source>Unknown tag: [%1]</source>
         <comment>Error message: tag is a keyword assigned to a piece of info.</comment>
-        <translation>Mot-clé inconnu : [%1]</translation>
+        <translation>Mot-clé inconnu&#xa0;: [%1]</translation>
     </message>
     <message>
         <source>All Categories</source>
@@ -588,7 +588,7 @@ support@example.com</translation>
     <message>
         <source>Insert From File</source>
         <comment>Button text for inserting a custom symbol from a file.</comment>
-        <translation>Insérer d’un fichier</translation>
+        <translation>Insérer un fichier</translation>
     </message>
     <message>
         <source>Cancel</source>

@@ -92,8 +92,8 @@ Only</source>
         <source>Set As User
 Background</source>
         <comment>User template button text.</comment>
-        <translation>ユーザー背景
-に設定</translation>
+        <translation>ユーザー
+背景に設定</translation>
     </message>
     <message>
         <source>The object is placed in a separate layer, that can be hidden (option in defaults menu) 
@@ -161,12 +161,12 @@ and optionally printed (option in print widget).</source>
     <message>
         <source>Remove all</source>
         <comment>Accessible name of the button that takes back all selected items.</comment>
-        <translation>すべて削除</translation>
+        <translation>すべて選択から外す</translation>
     </message>
     <message>
         <source>Remove</source>
         <comment>Accessible name of the button that takes back selected items.</comment>
-        <translation>削除</translation>
+        <translation>選択から外す</translation>
     </message>
     <message>
         <source>Up</source>
