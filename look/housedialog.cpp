@@ -41,8 +41,10 @@ public:
         if (event->type() == QEvent::Show && !event->spontaneous() && isWanted(*dialog)) {
             centre(dialog); // which makes QDialog leave it there
             m_isCentred = true;
-        } else if (event->type() == QEvent::Hide && !event->spontaneous() && m_isCentred) {
-            dialog->setAttribute(Qt::WA_Moved, false); // next time anew: its size may change
+        } else if (event->type() == QEvent::ShowToParent && m_isCentred) {
+            // As QDialog does: next time anew, because the size may change. A move from now on is
+            // the application's, and counts.
+            dialog->setAttribute(Qt::WA_Moved, false);
             m_isCentred = false;
         }
         return QObject::eventFilter(watched, event);
@@ -70,7 +72,7 @@ private:
         dialog->move(place.topLeft());
     }
 
-    bool m_isCentred = false;
+    bool m_isCentred = false; // while it is being shown
 };
 
 QString productName()

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void standsInTheMiddleOfItsParentsWindow();
     void standsOnTheScreenAsAWhole();
     void staysWhereItWasMoved();
+    void staysWhereItWasMovedWhileItWasShown();
     void isCentredAnewWhenItIsShownAgain();
     void aFrameIsReckonedWithAsByTheToolkit();
     void isNamedAsInItsTitleBar_data();
@@ -170,6 +171,19 @@ void TestHouseDialog::staysWhereItWasMoved()
         dialog.show();
         QCOMPARE(dialog.pos(), QPoint(20, 30));
         dialog.hide();
+    }
+}
+
+void TestHouseDialog::staysWhereItWasMovedWhileItWasShown()
+{
+    HouseDialog dialog;
+    dialog.resize(300, 200);
+    dialog.show();
+    dialog.move(20, 30);
+    for (int times = 0; times < 2; ++times) {
+        dialog.hide();
+        dialog.show();
+        QCOMPARE(dialog.pos(), QPoint(20, 30));
     }
 }
 
