@@ -67,6 +67,7 @@ private Q_SLOTS:
     void theLocaleCountsWithoutItsCountry();
     void theDefaultIsTheDefaultLocale();
     void anotherLanguageReplacesTheFormer();
+    void aThousandChangesLeaveOneLanguage();
     void theSameLanguageAgainTellsNobody();
     void theStandardButtonsSpeakWithoutQtsFiles();
     void qtsOwnTextsSpeakWhereItsFilesAre();
@@ -156,6 +157,24 @@ void TestOxTranslation::anotherLanguageReplacesTheFormer()
         QCOMPARE(translators(), one);
     }
     QCOMPARE(cancel(), QStringLiteral("Abbrechen"));
+}
+
+void TestOxTranslation::aThousandChangesLeaveOneLanguage()
+{
+    QVERIFY(install("de"));
+    const int one = translators();
+    settleLanguageChange();
+    const Listener window;
+    for (int times = 0; times < 500; ++times) {
+        QVERIFY(install("ar"));
+        QVERIFY(install("de"));
+    }
+    QCOMPARE(translators(), one);
+    settleLanguageChange();
+    QCOMPARE(window.languages, 1);
+    QCOMPARE(cancel(), QStringLiteral("Abbrechen"));
+    QVERIFY(install("en"));
+    QCOMPARE(cancel(), QStringLiteral("Cancel"));
 }
 
 void TestOxTranslation::theSameLanguageAgainTellsNobody()
