@@ -57,6 +57,8 @@ private Q_SLOTS:
     void sheetIsExact();
     void isFortySixPixelsHighHoweverItIsResized();
     void titleIsShownAndReplaced();
+    void namesFromOutsideAreShownToTheLetter_data();
+    void namesFromOutsideAreShownToTheLetter();
     void titleIsBoldWhiteAndFourteenPointsHigh();
     void closeButtonIsFlatAndThirtyFourByThirtyOne();
     void closeIconIsDrawnAtTheSizeOfTheButton();
@@ -123,6 +125,26 @@ void TestContainerTitleBar::titleIsShownAndReplaced()
     QCOMPARE(titleLabel(*bar)->text(), QStringLiteral("Layers"));
     bar->setTitle(QStringLiteral("Pages"));
     QCOMPARE(titleLabel(*bar)->text(), QStringLiteral("Pages"));
+}
+
+void TestContainerTitleBar::namesFromOutsideAreShownToTheLetter_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("ampersand") << QStringLiteral("Salt & pepper");
+    QTest::newRow("markup") << QStringLiteral("<b>Salt</b>");
+}
+
+/// As the comment of setTitle() tells to write them, which is that of the small bar as well.
+void TestContainerTitleBar::namesFromOutsideAreShownToTheLetter()
+{
+    QFETCH(QString, name);
+    ContainerTitleBar bar;
+    bar.setTitle(Qt::convertFromPlainText(name, Qt::WhiteSpaceNormal));
+    bar.resize(500, bar.height());
+    ContainerTitleBar plain(nullptr, name);
+    titleLabel(plain)->setTextFormat(Qt::PlainText);
+    plain.resize(bar.size());
+    QCOMPARE(bar.grab().toImage(), plain.grab().toImage());
 }
 
 void TestContainerTitleBar::titleIsBoldWhiteAndFourteenPointsHigh()

@@ -190,6 +190,8 @@ private Q_SLOTS:
     void everyIconShowsTheSameErrorIcon_data();
     void everyIconShowsTheSameErrorIcon();
     void titleAndTextAreShown();
+    void namesFromOutsideAreShownToTheLetter_data();
+    void namesFromOutsideAreShownToTheLetter();
     void textHasAMarginOfTwelvePixels();
     void buttonRowHasMarginsOfTwelvePixels();
     void everyStandardButtonHasTheSizeAndTheSheet_data();
@@ -380,6 +382,28 @@ void TestOxMessageBox::titleAndTextAreShown()
     auto box = createBox(QMessageBox::Ok);
     QCOMPARE(titleLabel(box.get())->text(), title());
     QCOMPARE(textLabel(box.get())->text(), text());
+}
+
+void TestOxMessageBox::namesFromOutsideAreShownToTheLetter_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("ampersand") << QStringLiteral("Salt & pepper");
+    QTest::newRow("entity") << QStringLiteral("Salt &amp; pepper");
+    QTest::newRow("markup") << QStringLiteral("<b>Salt</b>");
+    QTest::newRow("quotes") << QStringLiteral("\"Salt\" and 'pepper'");
+}
+
+/// As the class's comment tells to write them.
+void TestOxMessageBox::namesFromOutsideAreShownToTheLetter()
+{
+    QFETCH(QString, name);
+    auto box = createBox(QMessageBox::Ok, {}, Qt::convertFromPlainText(name, Qt::WhiteSpaceNormal));
+    box->show();
+    auto plain = createBox(QMessageBox::Ok, {}, name);
+    textLabel(plain.get())->setTextFormat(Qt::PlainText);
+    plain->show();
+    QCOMPARE(textLabel(box.get())->size(), textLabel(plain.get())->size());
+    QCOMPARE(textLabel(box.get())->grab().toImage(), textLabel(plain.get())->grab().toImage());
 }
 
 void TestOxMessageBox::textHasAMarginOfTwelvePixels()

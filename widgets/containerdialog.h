@@ -18,7 +18,7 @@ class QLayout;
  *
  * \code
  * ContainerDialog dialog;
- * dialog.setHeaderLabelText(tr("Grid", "Title of the dialog for the grid."));
+ * dialog.setHeaderLabelText(tr("GRID", "Title of the dialog for the grid."));
  * auto* form = new QFormLayout;
  * form->addRow(tr("Spacing", "Label of a field."), spacing);
  * connect(doneButton, &QPushButton::clicked, &dialog, &QDialog::accept);

@@ -17,7 +17,7 @@ class QPushButton;
  * itself:
  *
  * \code
- * auto* bar = new ContainerTitleBar(this, tr("Layers", "Title of the layers panel."));
+ * auto* bar = new ContainerTitleBar(this, tr("LAYERS", "Title of the layers panel."));
  * connect(bar, &ContainerTitleBar::closeButtonClicked, this, &QWidget::hide);
  * \endcode
  */
@@ -31,8 +31,10 @@ public:
     explicit ContainerTitleBar(QWidget* parent = nullptr, const QString& title = QString());
 
     QString title() const;
-    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
-    /// escape names that come from outside with QString::toHtmlEscaped().
+    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text, and
+    /// cut off without an ellipsis: names that come from outside are shown to the letter as
+    /// Qt::convertFromPlainText(name, Qt::WhiteSpaceNormal). Escaping alone is not enough: what is
+    /// plain then shows the escapes.
     void setTitle(const QString& title);
 
     /// Makes the bar one that cannot be closed. There is no way back.

@@ -49,10 +49,14 @@ class QPushButton;
  * Enter presses the default button. A box without a default button ignores Enter, so that nobody
  * confirms a question by accident; it never chooses a default button itself.
  *
- * Texts are plain, or rich where Qt::mightBeRichText() says so: escape names that come from outside
- * with QString::toHtmlEscaped(). A text is wrapped only if it is wider than the screen, and scrolls
- * under the finger only if the box would be higher than the screen. Keep it to a few lines all the
- * same: people do not read more before they tap.
+ * Texts are plain, or rich where Qt::mightBeRichText() says so. One that holds names from outside is
+ * shown to the letter as Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal), which
+ * QTextDocument's header declares. Escaping the names is not enough: a text without a tag is plain
+ * all the same, and shows the escapes.
+ *
+ * A text is wrapped only if it is wider than the screen, and scrolls under the finger only if the
+ * box would be higher than the screen. Keep it to a few lines all the same: people do not read more
+ * before they tap.
  */
 class UTILITYWIDGETS_EXPORT OxMessageBox : public QDialog
 {

@@ -17,7 +17,7 @@ class QPushButton;
  * ContainerTitleBar. The bar closes nothing itself:
  *
  * \code
- * auto* bar = new OxTitleBar(this, QStringLiteral(":/icons/ruler.png"), tr("Measure", "Title"));
+ * auto* bar = new OxTitleBar(this, QStringLiteral(":/icons/ruler.png"), tr("MEASURE", "Title of a dialog."));
  * connect(bar, &OxTitleBar::closeButtonClicked, this, &QDialog::reject);
  * \endcode
  */
@@ -39,8 +39,10 @@ public:
     /// Replaces the icon; a path that cannot be read leaves its place empty.
     void setIconPath(const QString& iconPath);
     QString title() const;
-    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text:
-    /// escape names that come from outside with QString::toHtmlEscaped().
+    /// Replaces the title. As in any QLabel, what Qt::mightBeRichText() is drawn as rich text, and
+    /// cut off without an ellipsis: names that come from outside are shown to the letter as
+    /// Qt::convertFromPlainText(name, Qt::WhiteSpaceNormal). Escaping alone is not enough: what is
+    /// plain then shows the escapes.
     void setTitle(const QString& title);
 
     /// The bar's style sheet, for a dialog that embeds a bar to append to its own sheet.

@@ -18,6 +18,7 @@
 #include <QFileSystemModel>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 namespace Gallery {
 
@@ -97,7 +98,8 @@ QString formats()
 void showChoice(const QString& path)
 {
     if (!path.isEmpty()) {
-        OxMessageBox::information(window(), QStringLiteral("RESULT"), path.toHtmlEscaped());
+        OxMessageBox::information(window(), QStringLiteral("RESULT"),
+                                  Qt::convertFromPlainText(path, Qt::WhiteSpaceNormal));
     }
 }
 
