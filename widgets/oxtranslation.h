@@ -24,7 +24,10 @@
  * {
  *     QLocale::setDefault(QLocale(code)); // numbers, dates and sizes
  *     OxTranslation::install(); // the texts of the library and of Qt
- *     QApplication::installTranslator(&m_translator); // the application's own, loaded before
+ *     QApplication::removeTranslator(&m_translator); // the application's own
+ *     if (m_translator.load(QLocale(), "editor", "_", ":/translations")) {
+ *         QApplication::installTranslator(&m_translator);
+ *     }
  * }
  * \endcode
  *
@@ -49,8 +52,8 @@ public:
      * Translates the texts of the library and those of the standard buttons of message boxes. Where
      * Qt's own file of that language ("qtbase_<language>.qm", in QLibraryInfo::TranslationsPath) is
      * installed on the device, the rest of Qt's texts, such as the menus of text fields, speak it,
-     * too. Replaces what an earlier call has installed. The translators belong to the application object and are
-     * deleted with it.
+     * too. Replaces what an earlier call has installed. The translators belong to the application
+     * object and are deleted with it.
      *
      * Of the languages that `locale` prefers, in the order of QLocale::uiLanguages(), the first
      * that is English or translated counts. English, which the texts are written in, has no

@@ -21,12 +21,10 @@ void SettingsPage::setLanguage(const QString& code)
 {
     QLocale::setDefault(QLocale(code)); // numbers, dates and sizes
     OxTranslation::install(); // the texts of the library
-    const bool isLoaded = m_translator.load(QLocale(), QStringLiteral("editor"),
-                                            QStringLiteral("_"), QStringLiteral(":/translations"));
-    if (isLoaded) {
+    QApplication::removeTranslator(&m_translator); // or it would be asked twice
+    if (m_translator.load(QLocale(), QStringLiteral("editor"), QStringLiteral("_"),
+                          QStringLiteral(":/translations"))) {
         QApplication::installTranslator(&m_translator); // the application's own
-    } else {
-        QApplication::removeTranslator(&m_translator);
     }
 }
 //! [change]
