@@ -10,8 +10,12 @@
 
 void Test::init()
 {
-    // The offscreen platform says this of sizes, raising and grabs whenever a window is shown.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+    // The offscreen platform says the first of sizes, raising and grabs whenever a window is shown;
+    // the X11 one now and then the second when popups follow each other fast and there is no window
+    // manager.
+    QTest::failOnWarning(
+        QRegularExpression(QStringLiteral("^(?!This plugin does not support |internal error:  void "
+                                          "QXcbWindow::setNetWmStateOnUnmappedWindow)")));
 }
 
 void Test::cleanup()
