@@ -45,8 +45,8 @@ QString pushButtonSheet()
     return Look::gradientButton() + QStringLiteral("QPushButton { min-width: 80px; }");
 }
 
-/// A label for a text of an option. It takes the whole width beside the radio button, so that all of the row
-/// can be tapped, and no translation makes the dialog wider than it is.
+/// A label for a text of an option. It takes the whole width beside the radio button, so that all of
+/// the row can be tapped, and no translation makes the dialog wider than it is.
 ClickableLabel* createText(QWidget* parent)
 {
     auto* label = new ClickableLabel(QString(), parent);
