@@ -7,6 +7,7 @@
 #include "support/syncstandin.h"
 #include "support/test.h"
 
+#include <QElapsedTimer>
 #include <QMetaProperty>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -85,6 +86,8 @@ private Q_SLOTS:
     void writingToAMissingFileMakesAnEmptyDatabase();
     void openingTwiceIsRefusedAndReported();
     void openingForReadingAllowsNoChange();
+    void theLockTimeoutCountsFromTheNextOpening();
+    void aLockedFileFailsOnceTheLockTimeoutIsOver();
     void foreignKeysAreOnInEveryConnection();
     void foreignKeysThatCannotBeSwitchedOnAreReportedOnly();
     void aFolderThatIsNotThereIsReportedAndLeavesNoConnection();
@@ -276,6 +279,48 @@ void TestSymbolDatabaseModel::openingTwiceIsRefusedAndReported()
     QVERIFY(database.model.database().isOpen());
     database.model.close();
     QCOMPARE(database.takeErrors(), QStringList());
+}
+
+void TestSymbolDatabaseModel::theLockTimeoutCountsFromTheNextOpening()
+{
+    SymbolDatabase database(SymbolDatabase::Schema);
+    const auto options = [&](bool readOnly) {
+        database.model.open(readOnly);
+        const QString current = database.model.database().connectOptions();
+        database.model.close();
+        return current;
+    };
+    QCOMPARE(options(true), QStringLiteral("QSQLITE_OPEN_READONLY"));
+    QCOMPARE(options(false), QString());
+    QVERIFY(database.model.open(true));
+    database.model.setLockTimeout(250);
+    QCOMPARE(database.model.database().connectOptions(), QStringLiteral("QSQLITE_OPEN_READONLY"));
+    database.model.close();
+    QCOMPARE(options(true), QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=250"));
+    QCOMPARE(options(false), QStringLiteral("QSQLITE_BUSY_TIMEOUT=250"));
+    database.model.setLockTimeout(-1);
+    QCOMPARE(options(false), QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    database.model.setLockTimeout(5000);
+    QCOMPARE(options(true), QStringLiteral("QSQLITE_OPEN_READONLY"));
+}
+
+void TestSymbolDatabaseModel::aLockedFileFailsOnceTheLockTimeoutIsOver()
+{
+    SymbolDatabase database(SymbolDatabase::Symbols);
+    SymbolDatabaseModel other;
+    other.setDatabasePath(database.path());
+    QVERIFY(other.open(false));
+    QVERIFY(QSqlQuery(other.database()).exec(QStringLiteral("BEGIN EXCLUSIVE")));
+    database.model.setLockTimeout(0);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(database.model.categories(), QStringList());
+    QVERIFY(timer.elapsed() < 4000);
+    const QStringList errors = database.takeErrors();
+    QCOMPARE(errors.count(), 1);
+    QVERIFY(errors.constFirst().contains(QStringLiteral("database is locked")));
+    other.close();
+    QCOMPARE(database.model.categories().count(), 3);
 }
 
 void TestSymbolDatabaseModel::openingForReadingAllowsNoChange()

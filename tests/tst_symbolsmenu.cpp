@@ -15,9 +15,12 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QStandardItemModel>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -71,6 +74,7 @@ private Q_SLOTS:
     void withoutALibraryItIsEmptyAndMakesNoFile();
     void aLibraryThatCannotBeReadLeavesItEmpty_data();
     void aLibraryThatCannotBeReadLeavesItEmpty();
+    void aLibraryThatIsLockedFreezesNothing();
 
 private:
     SyncStandIn m_sync;
@@ -574,6 +578,21 @@ void TestSymbolsMenu::aLibraryThatCannotBeReadLeavesItEmpty()
     QCOMPARE(menu.findChild<ClickableComboBox*>()->count(), 1);
     QCOMPARE(menu.findChild<DragScrollListView*>()->model()->rowCount(), 0);
     QCOMPARE(whole.database.read(), content);
+}
+
+void TestSymbolsMenu::aLibraryThatIsLockedFreezesNothing()
+{
+    const Subject subject;
+    SymbolDatabaseModel& other = subject.database.model;
+    QVERIFY(other.open(false));
+    QVERIFY(QSqlQuery(other.database()).exec(QStringLiteral("BEGIN EXCLUSIVE")));
+    QElapsedTimer timer;
+    timer.start();
+    const SymbolsMenu menu;
+    QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(menu.findChild<ClickableComboBox*>()->count(), 1);
+    QCOMPARE(menu.findChild<DragScrollListView*>()->model()->rowCount(), 0);
+    other.close();
 }
 
 UW_TEST_MAIN(TestSymbolsMenu)
