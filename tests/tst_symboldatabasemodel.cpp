@@ -286,7 +286,7 @@ void TestSymbolDatabaseModel::theLockTimeoutCountsFromTheNextOpening()
     SymbolDatabase database(SymbolDatabase::Schema);
     const auto options = [&](bool readOnly) {
         database.model.open(readOnly);
-        const QString current = database.model.database().connectOptions();
+        QString current = database.model.database().connectOptions();
         database.model.close();
         return current;
     };
