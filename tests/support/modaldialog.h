@@ -16,8 +16,9 @@
  * on that dialog as soon as it is shown. Returns what `run` returns.
  *
  * The script usually ends the dialog, or makes it end. One that is still open after ten seconds is
- * hidden and the test fails; so does a `run` that shows no dialog of that class. A script whose
- * check fails has its dialog hidden at once.
+ * hidden and the test fails, be it modal or not, and so is every dialog that `run` shows after that;
+ * so does a `run` that shows no dialog of that class. A script whose check fails has its dialog
+ * hidden at once.
  */
 template <typename Dialog = QDialog, typename Run>
 auto whileModal(Run run, std::function<void(Dialog*)> script) -> decltype(run())
@@ -37,12 +38,20 @@ auto whileModal(Run run, std::function<void(Dialog*)> script) -> decltype(run())
         }
     });
     QTimer tooLate;
-    tooLate.setSingleShot(true);
-    QObject::connect(&tooLate, &QTimer::timeout, &tooLate, [] {
-        if (QWidget* dialog = QApplication::activeModalWidget()) {
-            QTest::qFail("the dialog was not ended", __FILE__, __LINE__);
-            dialog->hide(); // ends exec() whatever the dialog thinks of it
+    QObject::connect(&tooLate, &QTimer::timeout, &tooLate, [&] {
+        // Not the active modal widget alone: one that blocks in exec() need not have become that.
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        bool isHidden = false;
+        for (QWidget* window : windows) {
+            if (window->isVisible() && (window->isModal() || qobject_cast<Dialog*>(window))) {
+                window->hide(); // ends exec() whatever the dialog thinks of it
+                isHidden = true;
+            }
         }
+        if (isHidden || !done) {
+            QTest::qFail("the dialog was not ended", __FILE__, __LINE__);
+        }
+        tooLate.start(100); // what is shown next by what has not ended
     });
     poll.start(0);
     tooLate.start(10000);
