@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
 // SPDX-License-Identifier: MIT
 
-#include "documentfile.h"
 #include "editorwindow.h"
 #include "recordbar.h"
 
@@ -143,23 +142,17 @@ Content exampleContent()
     return content;
 }
 
+/// What a file of it holds.
+QByteArray savedBytes(const Content& content)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("saved.label"));
+    return content.write(path).isEmpty() ? contentOf(path) : QByteArray();
+}
+
 bool isSame(const Content& first, const Content& second)
 {
-    if (first.page() != second.page() || first.layers.count() != second.layers.count()) {
-        return false;
-    }
-    for (int i = 0; i < first.layers.count(); ++i) {
-        const Layer& a = first.layers.at(i);
-        const Layer& b = second.layers.at(i);
-        if (a.name != b.name || a.isVisible != b.isVisible
-            || !std::equal(a.objects.cbegin(), a.objects.cend(), b.objects.cbegin(),
-                           b.objects.cend(), [](const Object& one, const Object& other) {
-                               return one.fields() == other.fields();
-                           })) {
-            return false;
-        }
-    }
-    return true;
+    return !savedBytes(first).isEmpty() && savedBytes(first) == savedBytes(second);
 }
 
 QString textOf(const OxMessageBox* box)
@@ -222,10 +215,7 @@ private Q_SLOTS:
 
     void aTapSelectsAndATapBesideSelectsNothing();
     void aDragMovesAnObject();
-    void theCornerResizesAnObject();
     void aTapThatTremblesMovesNothing();
-    void aDragBesideObjectsMovesThePage();
-    void theSliderZooms();
     void aHiddenLayerIsNotReached();
     void theUserBackgroundIsNotReached();
     void aReadOnlyTextCannotBeEdited();
@@ -259,7 +249,7 @@ private Q_SLOTS:
     void theProgramStartsWithAFile();
     void aSecondStartEndsAndTheFirstComesForward();
     void theProgramTellsItsOptions();
-    void theSourcesAreFewerThan1500LinesOfCode();
+    void theSourcesAreFewerThan1500Lines();
 };
 
 void TestEditor::initTestCase()
@@ -341,8 +331,6 @@ void TestEditor::fromANewDocumentToAPrintedPdf()
     QVERIFY2(user.selected().at(0).isLocked, "the lock was not tapped");
     STEP(user.drag(user.canvas->rectOf(symbol).center(), QPoint(60, -60)));
     QCOMPARE(user.selected().at(0).rect(), symbol.rect());
-    STEP(user.drag(user.canvas->handleOf(symbol).center(), QPoint(60, 60)));
-    QCOMPARE(document.content().objects().at(4).rect(), symbol.rect());
 
     // Several at once: all but the locked one turn green.
     whileModal<MultiItemSelectionDialog>([&] { user.tap(QStringLiteral("several")); },
@@ -482,23 +470,6 @@ void TestEditor::aDragMovesAnObject()
     QCOMPARE(after.x() * 2, std::round(after.x() * 2)); // on half millimetres
 }
 
-void TestEditor::theCornerResizesAnObject()
-{
-    EditorUser user;
-    user.insertShape(QStringLiteral("addEllipse"));
-    const QRectF before = user.objects().at(0).rect();
-    const QRect handle = user.canvas->handleOf(user.objects().at(0));
-    QCOMPARE(handle.size(), IconButtonSize);
-    user.drag(handle.center(), QPoint(60, 40));
-    const QRectF after = user.objects().at(0).rect();
-    QCOMPARE(after.topLeft(), before.topLeft());
-    QVERIFY(after.width() > before.width() + 5);
-    QVERIFY(after.height() > before.height() + 5);
-    // Never to nothing.
-    user.drag(user.canvas->handleOf(user.objects().at(0)).center(), QPoint(-400, -300));
-    QCOMPARE(user.objects().at(0).rect().size(), QSizeF(1, 1));
-}
-
 void TestEditor::aTapThatTremblesMovesNothing()
 {
     EditorUser user;
@@ -506,33 +477,6 @@ void TestEditor::aTapThatTremblesMovesNothing()
     const QRectF before = user.objects().at(0).rect();
     user.drag(user.canvas->rectOf(user.objects().at(0)).center(), QPoint(4, 3));
     QCOMPARE(user.objects().at(0).rect(), before);
-}
-
-void TestEditor::aDragBesideObjectsMovesThePage()
-{
-    EditorUser user;
-    user.insertShape(QStringLiteral("addRectangle"));
-    const Object rectangle = user.objects().at(0);
-    const QRect before = user.canvas->rectOf(rectangle);
-    user.drag(QPoint(6, 6), QPoint(80, 50));
-    QVERIFY((user.canvas->rectOf(rectangle).topLeft() - before.topLeft() - QPoint(80, 50))
-                .manhattanLength()
-            < 3);
-    QCOMPARE(user.objects().at(0).rect(), rectangle.rect());
-    user.tap(QStringLiteral("fit"));
-    QCOMPARE(user.canvas->rectOf(rectangle), before);
-}
-
-void TestEditor::theSliderZooms()
-{
-    EditorUser user;
-    user.insertShape(QStringLiteral("addRectangle"));
-    const int before = user.canvas->rectOf(user.objects().at(0)).width();
-    auto* zoom = user.find(QStringLiteral("zoom"));
-    TouchFinger().tap(zoom, QPoint(zoom->width() - 3, zoom->height() / 2));
-    QVERIFY(user.canvas->rectOf(user.objects().at(0)).width() > before * 2);
-    QCOMPARE(user.window.findChild<QLabel*>(QStringLiteral("zoomLabel"))->text(),
-             QStringLiteral("400 %"));
 }
 
 void TestEditor::aHiddenLayerIsNotReached()
@@ -556,9 +500,12 @@ void TestEditor::theUserBackgroundIsNotReached()
     QVERIFY(user.objects().at(0).isBackground);
     user.tapObject(user.objects().at(0));
     QCOMPARE(user.selected().count(), 0);
-    // The list of the layer still finds it.
-    user.tapTab(QStringLiteral("tabs"), 1);
-    EditorUser::tapItem(user.window.findChild<QListWidget*>(QStringLiteral("objects")), 0);
+    // Select Several still finds it.
+    whileModal<MultiItemSelectionDialog>([&] { user.tap(QStringLiteral("several")); },
+                                         [](MultiItemSelectionDialog* dialog) {
+                                             EditorUser::tapButton(dialog, QStringLiteral(">>"));
+                                             EditorUser::tapButton(dialog, QStringLiteral("OK"));
+                                         });
     QCOMPARE(user.selected().count(), 1);
 }
 
@@ -724,13 +671,11 @@ void TestEditor::closingTheRecordBarShowsTheNamesOfFields()
     EditorUser user;
     auto* bar = user.window.findChild<RecordBar*>();
     QCOMPARE(bar->open(DatabasesPath + QStringLiteral("Labels/Addresses.db")), QString());
-    QCOMPARE(DocumentPainter::filledIn(QStringLiteral("{name}"), bar->current()),
-             QStringLiteral("Ada"));
+    QCOMPARE(bar->current().value(QStringLiteral("name")).toString(), QStringLiteral("Ada"));
     QTRY_VERIFY(bar->isVisible());
     user.tap(QStringLiteral("closeButton"));
     QVERIFY(!bar->isVisible());
-    QCOMPARE(DocumentPainter::filledIn(QStringLiteral("{name}"), bar->current()),
-             QStringLiteral("{name}"));
+    QVERIFY2(bar->current().isEmpty(), "there is still a record for the {name} of a text");
 }
 
 void TestEditor::aSymbolIsInsertedFromAFile()
@@ -757,21 +702,23 @@ void TestEditor::aDrawingThatReadsFilesIsRefused()
     const QByteArray svg =
         "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
         "width='9' height='9'><image xlink:href='/etc/passwd' width='9' height='9'/></svg>";
-    QCOMPARE(DocumentFile::complaintAbout(svg), QStringLiteral("references to files"));
-    QCOMPARE(DocumentFile::complaintAbout(filledSvg("red")), QString());
-    QVERIFY(!DocumentFile::complaintAbout("<svg>").isEmpty());
+    QCOMPARE(Object::complaintAbout(svg), QStringLiteral("references to files"));
+    QCOMPARE(Object::complaintAbout(filledSvg("red")), QString());
+    QVERIFY(!Object::complaintAbout("<svg>").isEmpty());
 }
 
 void TestEditor::aTapElsewhereClosesTheMenu()
 {
     EditorUser user;
+    const QWidget* menu = user.find(QStringLiteral("menu"));
     user.tap(QStringLiteral("file"));
-    QVERIFY(user.window.findChild<QWidget*>(QStringLiteral("MenuItem")) != nullptr);
+    QVERIFY(menu->isVisible());
     TouchFinger().tap(user.canvas, QPoint(user.canvas->width() - 9, 9));
-    QTRY_VERIFY(user.window.findChild<QWidget*>(QStringLiteral("MenuItem")) == nullptr);
+    QTRY_VERIFY(!menu->isVisible());
     user.tap(QStringLiteral("file"));
+    QVERIFY(menu->isVisible());
     user.tap(QStringLiteral("file"));
-    QTRY_VERIFY(user.window.findChild<QWidget*>(QStringLiteral("MenuItem")) == nullptr);
+    QTRY_VERIFY(!menu->isVisible());
 }
 
 void TestEditor::everyControlHasANameAndIsLargeEnough()
@@ -801,13 +748,13 @@ void TestEditor::aDocumentIsReadAsItWasWritten()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("all.label"));
-    QCOMPARE(DocumentFile::write(path, exampleContent()), QString());
+    QCOMPARE(exampleContent().write(path), QString());
     Content content;
-    QCOMPARE(DocumentFile::read(path, &content), QString());
+    QCOMPARE(content.read(path), QString());
     QVERIFY(isSame(content, exampleContent()));
     // The same document is the same file.
     const QString again = folder.filePath(QStringLiteral("again.label"));
-    QCOMPARE(DocumentFile::write(again, content), QString());
+    QCOMPARE(content.write(again), QString());
     QCOMPARE(contentOf(again), contentOf(path));
 }
 
@@ -817,8 +764,8 @@ void TestEditor::whatWasDraggedFarAwayCanBeReadAgain()
     const QString path = folder.filePath(QStringLiteral("far.label"));
     Content content = exampleContent();
     content.layers[0].objects[0].left = -1e7;
-    QCOMPARE(DocumentFile::write(path, content), QString());
-    QCOMPARE(DocumentFile::read(path, &content), QString());
+    QCOMPARE(content.write(path), QString());
+    QCOMPARE(content.read(path), QString());
     QCOMPARE(content.objects().at(0).left, -10000.0);
 }
 
@@ -910,7 +857,7 @@ void TestEditor::everyFieldOfAnObjectIsChecked()
     QFETCH(QJsonValue, value);
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("bad.label"));
-    QCOMPARE(DocumentFile::write(path, exampleContent()), QString());
+    QCOMPARE(exampleContent().write(path), QString());
     QJsonObject json = QJsonDocument::fromJson(contentOf(path)).object();
     QJsonArray layers = json[QStringLiteral("layers")].toArray();
     QJsonObject layer = layers.at(0).toObject();
@@ -924,21 +871,19 @@ void TestEditor::everyFieldOfAnObjectIsChecked()
     json[QStringLiteral("layers")] = layers;
     makeFile(path, QJsonDocument(json).toJson());
     Content content;
-    QCOMPARE(DocumentFile::read(path, &content),
-             QStringLiteral("bad.label holds values that cannot be used."));
+    QCOMPARE(content.read(path), QStringLiteral("bad.label holds values that cannot be used."));
 }
 
 void TestEditor::aCutFileNeverCrashes()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("cut.label"));
-    QCOMPARE(DocumentFile::write(path, exampleContent()), QString());
+    QCOMPARE(exampleContent().write(path), QString());
     const QByteArray whole = contentOf(path).trimmed();
     for (int length = 0; length < whole.size(); length += 13) {
         makeFile(path, whole.left(length));
         Content content;
-        QVERIFY2(!DocumentFile::read(path, &content).isEmpty(),
-                 qPrintable(QString::number(length)));
+        QVERIFY2(!content.read(path).isEmpty(), qPrintable(QString::number(length)));
     }
 }
 
@@ -946,7 +891,7 @@ void TestEditor::aFileThatCannotBeWrittenKeepsWhatItWas()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("full.label"));
-    QCOMPARE(DocumentFile::write(path, Document().content()), QString());
+    QCOMPARE(Document().content().write(path), QString());
     const QByteArray before = contentOf(path);
     EditorUser user;
     user.window.openFile(path);
@@ -969,9 +914,9 @@ void TestEditor::aDocumentIsNotSavedIntoAFolderThatIsNotThere()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("gone/a.label"));
-    QVERIFY(DocumentFile::write(path, exampleContent())
-                .startsWith(QStringLiteral("a.label cannot be saved:\n")));
-    QVERIFY(DocumentFile::write(QStringLiteral("/proc/a.label"), exampleContent())
+    QVERIFY(exampleContent().write(path).startsWith(QStringLiteral("a.label cannot be saved:\n")));
+    QVERIFY(exampleContent()
+                .write(QStringLiteral("/proc/a.label"))
                 .startsWith(QStringLiteral("a.label cannot be saved:\n")));
 }
 
@@ -981,7 +926,8 @@ void TestEditor::aPdfThatCannotBeWrittenKeepsWhatItWas()
     const QString path = folder.filePath(QStringLiteral("full.pdf"));
     makeFile(path, "before");
     const FullDisk disk(64);
-    QVERIFY(DocumentPainter::print(path, exampleContent(), { QSqlRecord() })
+    QVERIFY(exampleContent()
+                .print(path, { QSqlRecord() })
                 .startsWith(QStringLiteral("full.pdf cannot be printed:\n")));
     QCOMPARE(contentOf(path), QByteArray("before"));
 }
@@ -990,7 +936,7 @@ void TestEditor::theProgramStartsWithAFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("first.label"));
-    QCOMPARE(DocumentFile::write(path, exampleContent()), QString());
+    QCOMPARE(exampleContent().write(path), QString());
     SecondProcess editor(QStringLiteral(UTILITYWIDGETS_EDITOR), { path });
     QVERIFY2(editor.waitForLine("editing " + path.toUtf8()), "the program does not run");
 }
@@ -1018,21 +964,17 @@ void TestEditor::theProgramTellsItsOptions()
              qPrintable(version.output));
 }
 
-void TestEditor::theSourcesAreFewerThan1500LinesOfCode()
+void TestEditor::theSourcesAreFewerThan1500Lines()
 {
     const QDir folder(QStringLiteral(EDITOR_FOLDER));
     const QStringList names = folder.entryList(
         { QStringLiteral("*.h"), QStringLiteral("*.cpp"), QStringLiteral("CMakeLists.txt") });
     QVERIFY(names.count() > 10);
-    // Blank lines and lines of comments are not code.
-    const QRegularExpression noCode(QStringLiteral("^\\s*(//.*|/\\*.*|\\*.*|# .*)?$"));
-    int lines = 0;
+    // Every line counts, as wc -l counts them. Not so the forms: they are Designer's, and the code
+    // that uic makes of them is nobody's to read.
+    qsizetype lines = 0;
     for (const QString& name : names) {
-        const QStringList all =
-            QString::fromUtf8(contentOf(folder.filePath(name))).split(QLatin1Char('\n'));
-        for (const QString& line : all) {
-            lines += noCode.match(line).hasMatch() ? 0 : 1;
-        }
+        lines += contentOf(folder.filePath(name)).count('\n');
     }
     QVERIFY2(lines > 100 && lines < 1500, qPrintable(QString::number(lines)));
 }

@@ -3,8 +3,6 @@
 
 #include "canvas.h"
 
-#include <sharedconstants.h>
-
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,13 +11,9 @@
 
 namespace {
 
-constexpr double MillimetresPerInch = 25.4;
-constexpr int HandleSize = 14; // pixels that are drawn; a finger has IconButtonSize
-constexpr int HandleDistance = 8; // pixels from the object's corner to the middle of its handle
-constexpr int PageMargin = 20; // pixels around a page that is fitted
+constexpr int PageMargin = 20; // pixels
 constexpr QMargins FrameMargins(3, 3, 3, 3); // of what is selected
 constexpr int LeastReach = 24; // pixels in which a finger finds even a thin object
-constexpr double LeastSize = 1; // millimetres of what has been resized
 const QColor AccentOrange(0xfd, 0x78, 0x00);
 const QColor Surround(0x84, 0x84, 0x84);
 
@@ -48,45 +42,20 @@ void Canvas::setRecord(const QSqlRecord& record)
 
 QRect Canvas::rectOf(const Object& object) const
 {
-    const double scale = pixelsPerMillimetre();
-    return QRectF(origin() + object.rect().topLeft() * scale, object.rect().size() * scale)
-        .toAlignedRect();
-}
-
-QRect Canvas::handleOf(const Object& object) const
-{
-    QRect handle(QPoint(), IconButtonSize);
-    handle.moveCenter(rectOf(object).bottomRight() + QPoint(HandleDistance, HandleDistance));
-    return handle;
-}
-
-void Canvas::setZoom(int percent)
-{
-    m_zoom = qBound(LeastZoom, percent, MostZoom);
-    update();
-    Q_EMIT zoomChanged(m_zoom);
-}
-
-void Canvas::zoomToFit()
-{
-    const QSizeF page = m_document->content().page();
-    const QSizeF room = size() - QSize(2 * PageMargin, 2 * PageMargin);
-    const double scale = qMin(room.width() / page.width(), room.height() / page.height());
-    m_center = { page.width() / 2, page.height() / 2 };
-    setZoom(int(scale * MillimetresPerInch / logicalDpiX() * 100));
+    return toPixels().mapRect(object.rect()).toAlignedRect();
 }
 
 void Canvas::paintEvent(QPaintEvent* /*event*/)
 {
-    const Content content = draggedContent();
+    Content content = m_document->content();
+    drag(&content);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), Surround);
     painter.save();
-    painter.translate(origin());
-    painter.scale(pixelsPerMillimetre(), pixelsPerMillimetre());
+    painter.setTransform(toPixels(), true);
     painter.fillRect(QRectF(QPointF(), content.page()), Qt::white);
-    m_painter.paint(&painter, content, m_record);
+    content.paint(&painter, m_record);
     painter.restore();
     const QList<Object> objects = content.objects();
     for (const Object& object : objects) {
@@ -94,63 +63,45 @@ void Canvas::paintEvent(QPaintEvent* /*event*/)
             const bool isFree = object.allows(Object::Properties);
             painter.setPen(QPen(AccentOrange, 2, isFree ? Qt::SolidLine : Qt::DotLine));
             painter.drawRect(rectOf(object) + FrameMargins);
-            if (hasHandle()) {
-                QRect handle(0, 0, HandleSize, HandleSize);
-                handle.moveCenter(handleOf(object).center());
-                painter.fillRect(handle, AccentOrange);
-            }
         }
     }
-}
-
-void Canvas::resizeEvent(QResizeEvent* /*event*/)
-{
-    zoomToFit();
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event)
 {
     m_pressed = m_position = event->position().toPoint();
-    if (hasHandle() && handleOf(m_document->selectedObjects().constFirst()).contains(m_pressed)) {
-        m_drag = Resize;
-        return;
-    }
     Object pressed;
     pressed.id = objectAt(m_pressed);
-    m_drag = pressed.id == 0 ? Pan : Move;
-    if (pressed.id == 0 || !m_document->isSelected(pressed)) {
+    m_isPressed = true;
+    if (!m_document->isSelected(pressed)) {
         m_document->select({ pressed.id });
     }
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPoint position = event->position().toPoint();
-    if (m_drag == Pan) {
-        m_center -= QPointF(position - m_position) / pixelsPerMillimetre();
-    }
-    m_position = position;
+    m_position = event->position().toPoint();
     update();
 }
 
 void Canvas::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
-    const bool isChanged = (m_drag == Move || m_drag == Resize) && !dragged().isNull();
-    const Content content = draggedContent();
-    m_drag = NoDrag;
+    Content content = m_document->content();
+    const bool isChanged = drag(&content);
+    m_isPressed = false;
     if (isChanged) {
         m_document->edit(content);
     }
 }
 
-double Canvas::pixelsPerMillimetre() const
+QTransform Canvas::toPixels() const
 {
-    return m_zoom / 100. * logicalDpiX() / MillimetresPerInch;
-}
-
-QPointF Canvas::origin() const
-{
-    return QRectF(rect()).center() - m_center * pixelsPerMillimetre();
+    const QSizeF page = m_document->content().page();
+    const QSizeF room = size() - QSize(2 * PageMargin, 2 * PageMargin);
+    const double scale = qMin(room.width() / page.width(), room.height() / page.height());
+    const QPointF corner =
+        QPointF(width(), height()) - QPointF(page.width(), page.height()) * scale;
+    return QTransform::fromTranslate(corner.x() / 2, corner.y() / 2).scale(scale, scale);
 }
 
 int Canvas::objectAt(const QPoint& position) const
@@ -168,42 +119,19 @@ int Canvas::objectAt(const QPoint& position) const
     return found;
 }
 
-bool Canvas::hasHandle() const
-{
-    const QList<Object> selected = m_document->selectedObjects();
-    return selected.count() == 1 && selected.constFirst().allows(Object::Properties);
-}
-
-QPointF Canvas::dragged() const
+bool Canvas::drag(Content* content) const
 {
     const QPoint distance = m_position - m_pressed;
-    return distance.manhattanLength() < QApplication::startDragDistance()
-        ? QPointF()
-        : QPointF(distance) / pixelsPerMillimetre();
-}
-
-Content Canvas::draggedContent() const
-{
-    Content content = m_document->content();
-    const QPointF offset = dragged();
-    if ((m_drag != Move && m_drag != Resize) || offset.isNull()) {
-        return content;
+    if (!m_isPressed || distance.manhattanLength() < QApplication::startDragDistance()) {
+        return false;
     }
-    for (Layer& layer : content.layers) {
-        for (Object& object : layer.objects) {
-            if (!m_document->isSelected(object) || !object.allows(Object::Properties)) {
-                continue;
-            }
-            if (m_drag == Move) {
-                object.left = snapped(object.left + offset.x());
-                object.top = snapped(object.top + offset.y());
-            } else {
-                object.width = qMax(snapped(object.width + offset.x()), LeastSize);
-                object.height = qMax(snapped(object.height + offset.y()), LeastSize);
-            }
-        }
+    const QPointF offset = QPointF(distance) / toPixels().m11();
+    const QList<Object*> objects = m_document->changeable(content, Object::Properties);
+    for (Object* object : objects) {
+        object->left = snapped(object->left + offset.x());
+        object->top = snapped(object->top + offset.y());
     }
-    return content;
+    return !objects.isEmpty();
 }
 
 #include "moc_canvas.cpp"

@@ -103,22 +103,17 @@ void Document::add(Object object)
     edit(content);
 }
 
-void Document::changeSelected(Object::Aspect aspect, const std::function<void(Object&)>& change)
+QList<Object*> Document::changeable(Content* content, Object::Aspect aspect) const
 {
-    Content content = m_content;
-    bool isDifferent = false;
-    for (Layer& layer : content.layers) {
+    QList<Object*> objects;
+    for (Layer& layer : content->layers) {
         for (Object& object : layer.objects) {
             if (isSelected(object) && object.allows(aspect)) {
-                const Object before = object;
-                change(object);
-                isDifferent = isDifferent || before.fields() != object.fields();
+                objects.append(&object);
             }
         }
     }
-    if (isDifferent) {
-        edit(content);
-    }
+    return objects;
 }
 
 bool Document::removeSelected()

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include <QObject>
+#include <QCoreApplication>
 #include <QRectF>
+#include <QSqlRecord>
 
-#include <functional>
-#include <tuple>
+class QPainter;
 
 /// One thing on a page. Lengths are millimetres from the page's top left corner.
 struct Object
@@ -36,11 +36,8 @@ struct Object
     bool allows(Aspect aspect) const;
     /// For lists: what it is and what tells it from others.
     QString description() const;
-    auto fields() const
-    {
-        return std::tie(id, kind, left, top, width, height, text, svg, fillColor, lineColor,
-                        lineWidth, fontSize, isLocked, isReadOnly, isBackground);
-    }
+    /// Why a drawing is not accepted for a symbol; empty if it is.
+    static QString complaintAbout(const QByteArray& svg);
 };
 
 struct Layer
@@ -53,6 +50,9 @@ struct Layer
 /// All that is saved of a document. Copies are cheap: they share what is not changed.
 struct Content
 {
+    Q_DECLARE_TR_FUNCTIONS(Content)
+
+public:
     double pageWidth = 100; ///< millimetres, as the height
     double pageHeight = 70;
     QList<Layer> layers; ///< at least one; the last one lies on top
@@ -60,6 +60,21 @@ struct Content
     QSizeF page() const { return { pageWidth, pageHeight }; }
     /// All of them, the lowest first.
     QList<Object> objects() const;
+
+    /// Draws it, on the screen and on paper alike. One unit of the painter is a millimetre, and its
+    /// origin the top left corner of the page.
+    void paint(QPainter* painter, const QSqlRecord& record) const;
+
+    /// \name Files, written as a whole or not at all
+    /// All return what to tell the person, or nothing.
+    /// @{
+    /// A file can come from anywhere: every number that is read can be drawn, and every drawing may
+    /// be. Where there is something to tell, this content is of no use.
+    QString read(const QString& path);
+    QString write(const QString& path) const;
+    /// To PDF, one page per record.
+    QString print(const QString& path, const QList<QSqlRecord>& records) const;
+    /// @}
 };
 
 /*!
@@ -96,8 +111,23 @@ public:
     void edit(const Content& content);
     /// Adds a copy to the current layer, in the middle of the page, and selects it.
     void add(Object object);
-    /// Changes the selected objects whose locks allow it. No step if nothing is different then.
-    void changeSelected(Object::Aspect aspect, const std::function<void(Object&)>& change);
+    /// The objects in `content`, a copy of this document's, that are selected and whose locks allow
+    /// a change.
+    QList<Object*> changeable(Content* content, Object::Aspect aspect) const;
+    /// Sets a field of the selected objects whose locks allow it. No step if nothing changes.
+    template <typename Value>
+    void setSelected(Object::Aspect aspect, Value Object::*field, const Value& value)
+    {
+        Content content = m_content;
+        bool isChanged = false;
+        for (Object* object : changeable(&content, aspect)) {
+            isChanged = isChanged || object->*field != value;
+            object->*field = value;
+        }
+        if (isChanged) {
+            edit(content);
+        }
+    }
     /// Removes the selected objects. False, and nothing is removed, if a lock forbids one of them.
     bool removeSelected();
     /// Removes the current layer. False if it is the last or a lock forbids one of its objects.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
 // SPDX-License-Identifier: MIT
 
-#include "documentfile.h"
+#include "document.h"
 
 #include <SymbolInspection>
 
@@ -10,6 +10,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
 #include <QSet>
 
 namespace {
@@ -17,6 +20,7 @@ namespace {
 constexpr int Version = 1;
 constexpr qint64 LargestFile = qint64(32) * 1024 * 1024; // bytes
 constexpr double Farthest = 10000; // millimetres
+constexpr double MillimetresPerInch = 25.4;
 const QStringList KindNames = { QStringLiteral("text"), QStringLiteral("rectangle"),
                                 QStringLiteral("ellipse"), QStringLiteral("line"),
                                 QStringLiteral("symbol") };
@@ -85,7 +89,7 @@ void visit(Fields* fields, Object* object)
     object->kind = Object::Kind(qMax(qsizetype(0), KindNames.indexOf(kind)));
     fields->isGood = fields->isGood && KindNames.contains(kind)
         && QColor::isValidColor(object->fillColor) && QColor::isValidColor(object->lineColor)
-        && (object->kind != Object::Symbol || DocumentFile::complaintAbout(object->svg).isEmpty());
+        && (object->kind != Object::Symbol || Object::complaintAbout(object->svg).isEmpty());
 }
 
 void visit(Fields* fields, Layer* layer)
@@ -114,9 +118,23 @@ bool hasEveryIdOnce(const Content& content)
     return ids.count() == objects.count();
 }
 
+/// Commits the file, unless some of it could not be written. QSaveFile alone does not notice when
+/// only a part of its last buffer fits on the disk.
+bool commit(QSaveFile* file)
+{
+    return file->flush() && file->error() == QFile::NoError && file->commit();
+}
+
 } // namespace
 
-QString DocumentFile::read(const QString& path, Content* content)
+QString Object::complaintAbout(const QByteArray& svg)
+{
+    const SymbolInspection inspection(svg);
+    return inspection.isRefused() ? inspection.refusal()
+                                  : inspection.leftOut().join(QLatin1String(", "));
+}
+
+QString Content::read(const QString& path)
 {
     const QString name = QFileInfo(path).fileName();
     QFile file(path);
@@ -134,16 +152,17 @@ QString DocumentFile::read(const QString& path, Content* content)
         return tr("%1 was saved by a newer version of this program.", "Error message: a file.")
             .arg(name);
     }
-    visit(&fields, content);
-    return fields.isGood && !content->layers.isEmpty() && hasEveryIdOnce(*content)
+    visit(&fields, this);
+    return fields.isGood && !layers.isEmpty() && hasEveryIdOnce(*this)
         ? QString()
         : tr("%1 holds values that cannot be used.", "Error message: a file.").arg(name);
 }
 
-QString DocumentFile::write(const QString& path, Content content)
+QString Content::write(const QString& path) const
 {
+    Content visited = *this;
     Fields fields;
-    visit(&fields, &content);
+    visit(&fields, &visited);
     QSaveFile file(path);
     if (file.open(QFile::WriteOnly) && file.write(QJsonDocument(fields.json).toJson()) >= 0
         && commit(&file)) {
@@ -153,14 +172,27 @@ QString DocumentFile::write(const QString& path, Content content)
         .arg(QFileInfo(path).fileName(), file.errorString());
 }
 
-bool DocumentFile::commit(QSaveFile* file)
+QString Content::print(const QString& path, const QList<QSqlRecord>& records) const
 {
-    return file->flush() && file->error() == QFile::NoError && file->commit();
-}
-
-QString DocumentFile::complaintAbout(const QByteArray& svg)
-{
-    const SymbolInspection inspection(svg);
-    return inspection.isRefused() ? inspection.refusal()
-                                  : inspection.leftOut().join(QLatin1String(", "));
+    QSaveFile file(path);
+    bool isWritten = file.open(QFile::WriteOnly);
+    if (isWritten) {
+        QPdfWriter writer(&file);
+        writer.setPageLayout(
+            { QPageSize(page(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch),
+              QPageLayout::Portrait, QMarginsF() });
+        QPainter painter(&writer);
+        const double scale = writer.resolution() / MillimetresPerInch;
+        painter.scale(scale, scale);
+        for (qsizetype i = 0; i < records.count() && isWritten; ++i) {
+            isWritten = i == 0 || writer.newPage();
+            paint(&painter, records.at(i));
+        }
+        isWritten = painter.end() && isWritten;
+    }
+    if (!isWritten || !commit(&file)) {
+        return tr("%1 cannot be printed:\n%2", "Error message: a file and the system's reason.")
+            .arg(QFileInfo(path).fileName(), file.errorString());
+    }
+    return {};
 }

@@ -1,21 +1,29 @@
 // SPDX-FileCopyrightText: 2026 The UtilityWidgets authors
 // SPDX-License-Identifier: MIT
 
-#include "documentpainter.h"
-
-#include "documentfile.h"
+#include "document.h"
 
 #include <ApplicationFont>
 
-#include <QFileInfo>
 #include <QPainter>
-#include <QPdfWriter>
+#include <QSvgRenderer>
+#include <QVariant>
 
 namespace {
 
 constexpr double MillimetresPerInch = 25.4;
 /// Fonts have whole sizes: text is drawn this much larger and scaled down.
 constexpr double TextScale = 100;
+
+/// A text with the record's fields in the place of their {names}.
+QString filledIn(QString text, const QSqlRecord& record)
+{
+    for (int i = 0; i < record.count(); ++i) {
+        text.replace(QLatin1Char('{') + record.fieldName(i) + QLatin1Char('}'),
+                     record.value(i).toString());
+    }
+    return text;
+}
 
 void paintText(QPainter* painter, const Object& object, const QString& text)
 {
@@ -30,58 +38,14 @@ void paintText(QPainter* painter, const Object& object, const QString& text)
     painter->restore();
 }
 
-} // namespace
-
-void DocumentPainter::paint(QPainter* painter, const Content& content, const QSqlRecord& record)
+void paintSymbol(QPainter* painter, const Object& object)
 {
-    for (const bool isBackground : { true, false }) {
-        for (const Layer& layer : content.layers) {
-            for (const Object& object : layer.objects) {
-                if (object.isBackground == isBackground && layer.isVisible) {
-                    paint(painter, object, record);
-                }
-            }
-        }
-    }
+    QSvgRenderer drawing(object.svg);
+    drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+    drawing.render(painter, object.rect());
 }
 
-QString DocumentPainter::print(const QString& path, const Content& content,
-                               const QList<QSqlRecord>& records)
-{
-    QSaveFile file(path);
-    bool isWritten = file.open(QFile::WriteOnly);
-    if (isWritten) {
-        QPdfWriter writer(&file);
-        writer.setPageLayout(
-            { QPageSize(content.page(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch),
-              QPageLayout::Portrait, QMarginsF() });
-        QPainter painter(&writer);
-        const double scale = writer.resolution() / MillimetresPerInch;
-        painter.scale(scale, scale);
-        DocumentPainter pages;
-        for (qsizetype i = 0; i < records.count() && isWritten; ++i) {
-            isWritten = i == 0 || writer.newPage();
-            pages.paint(&painter, content, records.at(i));
-        }
-        isWritten = painter.end() && isWritten;
-    }
-    if (!isWritten || !DocumentFile::commit(&file)) {
-        return tr("%1 cannot be printed:\n%2", "Error message: a file and the system's reason.")
-            .arg(QFileInfo(path).fileName(), file.errorString());
-    }
-    return {};
-}
-
-QString DocumentPainter::filledIn(QString text, const QSqlRecord& record)
-{
-    for (int i = 0; i < record.count(); ++i) {
-        text.replace(QLatin1Char('{') + record.fieldName(i) + QLatin1Char('}'),
-                     record.value(i).toString());
-    }
-    return text;
-}
-
-void DocumentPainter::paint(QPainter* painter, const Object& object, const QSqlRecord& record)
+void paintObject(QPainter* painter, const Object& object, const QSqlRecord& record)
 {
     const QPen pen(QColor(object.lineColor), object.lineWidth, Qt::SolidLine, Qt::RoundCap,
                    Qt::MiterJoin);
@@ -103,12 +67,22 @@ void DocumentPainter::paint(QPainter* painter, const Object& object, const QSqlR
         painter->drawLine(object.rect().topLeft(), object.rect().bottomRight());
         break;
     case Object::Symbol:
-        if (!m_drawings.contains(object.svg)) {
-            auto* drawing = new QSvgRenderer(object.svg); // which the cache owns
-            drawing->setAspectRatioMode(Qt::KeepAspectRatio);
-            m_drawings.insert(object.svg, drawing);
-        }
-        m_drawings.object(object.svg)->render(painter, object.rect());
+        paintSymbol(painter, object);
         break;
+    }
+}
+
+} // namespace
+
+void Content::paint(QPainter* painter, const QSqlRecord& record) const
+{
+    for (const bool isBackground : { true, false }) {
+        for (const Layer& layer : layers) {
+            for (const Object& object : layer.objects) {
+                if (object.isBackground == isBackground && layer.isVisible) {
+                    paintObject(painter, object, record);
+                }
+            }
+        }
     }
 }

@@ -4,13 +4,10 @@
 #include "editorwindow.h"
 
 #include "canvas.h"
-#include "documentfile.h"
-#include "layerspanel.h"
-#include "propertiespanel.h"
+#include "sidepanel.h"
 #include "ui_editorwindow.h"
 
 #include <DatabaseSelectorDialog>
-#include <FileMenuWidget>
 #include <MultiItemSelectionDialog>
 #include <MultiItemSelectionWidget>
 #include <OxFileDialog>
@@ -21,12 +18,11 @@
 #include <SymbolDatabaseWidget>
 
 #include <QCloseEvent>
-#include <QSignalBlocker>
 #include <QStandardItem>
 
 namespace {
 
-constexpr QSize MenuItemSize(220, 40);
+constexpr QSize ListItemSize(220, 40);
 constexpr qint64 LargestSymbol = qint64(4) * 1024 * 1024; // bytes
 
 } // namespace
@@ -35,6 +31,7 @@ EditorWindow::EditorWindow(QWidget* parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::EditorWindow>())
     , m_canvas(new Canvas(&m_document))
+    , m_panel(new SidePanel(&m_document))
 {
     setWindowFlag(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_StyledBackground);
@@ -42,8 +39,20 @@ EditorWindow::EditorWindow(QWidget* parent)
     sheet.open(QFile::ReadOnly);
     setStyleSheet(QString::fromUtf8(sheet.readAll()));
     m_ui->setupUi(this);
-    setUpPanels();
-    setUpTools();
+    m_ui->body->addWidget(m_canvas, 1);
+    m_ui->body->addWidget(m_panel);
+    m_ui->menu->raise();
+    // A tap on an item leaves the focus to the menu, or it would end before the tap is over.
+    connect(m_ui->menu, &FileMenuWidget::focusLost, m_ui->menu, [menu = m_ui->menu] {
+        menu->setVisible(menu->isAncestorOf(QApplication::focusWidget()));
+    });
+    connect(m_ui->undo, &QPushButton::clicked, &m_document, &Document::undo);
+    connect(m_ui->redo, &QPushButton::clicked, &m_document, &Document::redo);
+    connect(m_ui->addRectangle, &QPushButton::clicked, this, [this] { add(Object::Rectangle); });
+    connect(m_ui->addEllipse, &QPushButton::clicked, this, [this] { add(Object::Ellipse); });
+    connect(m_ui->addLine, &QPushButton::clicked, this, [this] { add(Object::Line); });
+    connect(m_ui->records, &RecordBar::currentChanged, m_canvas,
+            [this] { m_canvas->setRecord(m_ui->records->current()); });
     connect(&m_document, &Document::changed, this, &EditorWindow::showDocument);
     showDocument();
 }
@@ -51,36 +60,7 @@ EditorWindow::EditorWindow(QWidget* parent)
 EditorWindow::~EditorWindow()
 {
     // A field that goes while it has the focus tells what is typed: the document must still be there.
-    const std::unique_ptr<QWidget> panels(m_ui->panels);
-}
-
-void EditorWindow::setUpPanels()
-{
-    m_ui->pageLayout->addWidget(m_canvas);
-    m_ui->tabs->addTab(tr("Object", "Tab of the properties of an object."));
-    m_ui->tabs->addTab(tr("Page", "Tab of the page and its layers."));
-    m_ui->panels->addWidget(new PropertiesPanel(&m_document, m_ui->panels->minimumSize()));
-    m_ui->panels->addWidget(new LayersPanel(&m_document));
-    connect(m_ui->tabs, &QTabBar::currentChanged, m_ui->panels, &QStackedWidget::setCurrentIndex);
-    connect(m_ui->records, &RecordBar::currentChanged, m_canvas,
-            [this] { m_canvas->setRecord(m_ui->records->current()); });
-}
-
-void EditorWindow::setUpTools()
-{
-    connect(m_ui->undo, &QPushButton::clicked, &m_document, &Document::undo);
-    connect(m_ui->redo, &QPushButton::clicked, &m_document, &Document::redo);
-    connect(m_ui->addRectangle, &QPushButton::clicked, this, [this] { add(Object::Rectangle); });
-    connect(m_ui->addEllipse, &QPushButton::clicked, this, [this] { add(Object::Ellipse); });
-    connect(m_ui->addLine, &QPushButton::clicked, this, [this] { add(Object::Line); });
-    connect(m_ui->fit, &QPushButton::clicked, m_canvas, &Canvas::zoomToFit);
-    m_ui->zoom->setRange(Canvas::LeastZoom, Canvas::MostZoom);
-    connect(m_ui->zoom, &QSlider::valueChanged, m_canvas, &Canvas::setZoom);
-    connect(m_canvas, &Canvas::zoomChanged, this, [this](int percent) {
-        const QSignalBlocker blocker(m_ui->zoom);
-        m_ui->zoom->setValue(percent);
-        m_ui->zoomLabel->setText(tr("%1 %", "Zoom in percent.").arg(percent));
-    });
+    const std::unique_ptr<QWidget> panel(m_panel);
 }
 
 void EditorWindow::showDocument()
@@ -98,33 +78,12 @@ void EditorWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(mayLeave());
 }
 
-void EditorWindow::showMenu()
+void EditorWindow::showOrHideMenu()
 {
-    if (auto* open = findChild<FileMenuWidget*>()) {
-        open->deleteLater(); // a second tap on the button
-        return;
-    }
-    auto* menu = new FileMenuWidget(this);
-    const QList<QAction*> commands = actions();
-    for (const QAction* command : commands) {
-        auto* item = new QPushButton(command->text(), menu);
-        item->setObjectName(QStringLiteral("MenuItem"));
-        item->setFixedSize(MenuItemSize);
-        // A tap must not take the focus, which would end the menu before the tap is over.
-        item->setFocusPolicy(Qt::TabFocus);
-        menu->addMenuItem(item);
-        connect(item, &QPushButton::clicked, menu, &QObject::deleteLater);
-        connect(item, &QPushButton::clicked, command, &QAction::trigger, Qt::QueuedConnection);
-    }
-    connect(menu, &FileMenuWidget::focusLost, menu, [menu] {
-        if (!menu->isAncestorOf(QApplication::focusWidget())) {
-            menu->deleteLater();
-        }
-    });
-    menu->adjustSize();
-    menu->move(m_ui->file->geometry().bottomLeft());
-    menu->show();
-    menu->setFocus();
+    m_ui->menu->move(m_ui->file->geometry().bottomLeft());
+    m_ui->menu->adjustSize();
+    m_ui->menu->setVisible(m_ui->menu->isHidden());
+    m_ui->menu->setFocus();
 }
 
 bool EditorWindow::mayLeave()
@@ -153,7 +112,6 @@ void EditorWindow::newDocument()
 {
     if (mayLeave()) {
         m_document.reset(Document().content(), QString());
-        m_canvas->zoomToFit();
     }
 }
 
@@ -168,9 +126,8 @@ void EditorWindow::openDocument()
 void EditorWindow::openFile(const QString& path)
 {
     Content content;
-    if (!path.isEmpty() && check(DocumentFile::read(path, &content))) {
+    if (!path.isEmpty() && check(content.read(path))) {
         m_document.reset(content, path);
-        m_canvas->zoomToFit();
     }
 }
 
@@ -186,7 +143,7 @@ bool EditorWindow::saveAs()
 
 bool EditorWindow::saveTo(const QString& path)
 {
-    if (path.isEmpty() || !check(DocumentFile::write(path, m_document.content()))) {
+    if (path.isEmpty() || !check(m_document.content().write(path))) {
         return false;
     }
     m_document.setSaved(path);
@@ -210,7 +167,7 @@ void EditorWindow::print()
     const QString path = askForFile(tr("Print to PDF", "Title of a dialog."),
                                     tr("PDF Documents (*.pdf)", "Kind of files."));
     if (!path.isEmpty()) {
-        check(DocumentPainter::print(path, m_document.content(), m_ui->records->records()));
+        check(m_document.content().print(path, m_ui->records->records()));
     }
 }
 
@@ -277,7 +234,7 @@ void EditorWindow::addSymbol()
     if (browser.exec() == QDialog::Accepted) {
         svg = browser.getSelectedSymbol();
     }
-    if (!svg.isEmpty() && check(DocumentFile::complaintAbout(svg))) {
+    if (!svg.isEmpty() && check(Object::complaintAbout(svg))) {
         add(Object::Symbol, QString(), svg);
     }
 }
@@ -289,7 +246,7 @@ void EditorWindow::selectSeveral()
     for (const Object& object : m_document.content().objects()) {
         items.append(new QStandardItem(object.description()));
         items.constLast()->setData(object.id, Qt::UserRole + 1);
-        items.constLast()->setSizeHint(MenuItemSize); // for a finger
+        items.constLast()->setSizeHint(ListItemSize); // for a finger
         if (m_document.isSelected(object)) {
             selected.append(object.id);
         }

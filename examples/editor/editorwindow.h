@@ -10,6 +10,7 @@
 #include <memory>
 
 class Canvas;
+class SidePanel;
 
 namespace Ui {
 class EditorWindow;
@@ -34,7 +35,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private Q_SLOTS:
-    void showMenu();
+    void showOrHideMenu();
     void newDocument();
     void openDocument();
     bool save();
@@ -49,8 +50,6 @@ private Q_SLOTS:
     void removeSelected();
 
 private:
-    void setUpPanels();
-    void setUpTools();
     void showDocument();
     void add(Object::Kind kind, const QString& text = {}, const QByteArray& svg = {});
     /// Whether the document may be replaced: it is saved, or need not be.
@@ -64,4 +63,5 @@ private:
     Document m_document;
     std::unique_ptr<Ui::EditorWindow> m_ui;
     Canvas* m_canvas;
+    SidePanel* m_panel;
 };
