@@ -42,6 +42,7 @@ QFrame* createSeparator(QWidget* parent)
 
 } // namespace
 
+// NOLINTNEXTLINE(modernize-pass-by-value): the signature is part of the interface
 OxInfoWidget::OxInfoWidget(const QString& version, QWidget* parent)
     : QDialog(parent)
     , m_version(version)

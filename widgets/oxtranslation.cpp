@@ -57,7 +57,7 @@ QString languageOf(const QLocale& locale)
 {
     const QStringList names = locale.uiLanguages();
     for (const QString& name : names) {
-        const QString language = name.section(QLatin1Char('-'), 0, 0);
+        QString language = name.section(QLatin1Char('-'), 0, 0);
         // The locale "C" counts as English, as it does for Qt.
         if (language == QLatin1String("C") || language == sourceLanguage()) {
             return sourceLanguage();
